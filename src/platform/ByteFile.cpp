@@ -1,0 +1,84 @@
+#include "platform/ByteFile.h"
+
+#include "platform/Ansi.h"
+#include "platform/Failure.h"
+#include "platform/FileNames.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+namespace fh {
+
+ByteFile ByteFile::openForReading(const QString& designName) {
+  QFile file(resolveFileName(designName));
+  if (!QFileInfo(file.fileName()).isFile() || !file.open(QIODevice::ReadOnly))
+    throw RuntimeFailure(Failure::FileNotFound, designName);
+  ByteFile result;
+  result.m_bytes = file.readAll();
+  return result;
+}
+
+ByteFile ByteFile::openForWriting(const QString& designName) {
+  const QString path = resolveFileName(designName);
+  if (!QFileInfo(QFileInfo(path).path()).isDir()) throw RuntimeFailure(Failure::PathNotFound, designName);
+  ByteFile result;
+  result.m_writePath = path;
+  return result;
+}
+
+ByteFile ByteFile::fromBytes(QByteArray bytes) {
+  ByteFile result;
+  result.m_bytes = std::move(bytes);
+  return result;
+}
+
+ByteFile::~ByteFile() {
+  try {
+    close();
+  } catch (const RuntimeFailure&) {
+    // A destructor can't report; close() explicitly to see the failure.
+  }
+}
+
+QByteArray ByteFile::getBytes(qsizetype count) {
+  if (count < 0 || count > remaining()) {
+    m_position = m_bytes.size();
+    throw RuntimeFailure(Failure::InputPastEndOfFile);
+  }
+  QByteArray result = m_bytes.mid(m_position, count);
+  m_position += count;
+  return result;
+}
+
+i16 ByteFile::getInteger() {
+  const QByteArray b = getBytes(2);
+  return static_cast<i16>(static_cast<unsigned char>(b[0]) | (static_cast<unsigned char>(b[1]) << 8));
+}
+
+QString ByteFile::getText(qsizetype length) { return fromAnsi(getBytes(length)); }
+
+void ByteFile::putBytes(const QByteArray& bytes) {
+  m_bytes.append(bytes);
+  m_position = m_bytes.size();
+}
+
+void ByteFile::putInteger(i16 value) {
+  const auto u = static_cast<std::uint16_t>(value);
+  putBytes(QByteArray({static_cast<char>(u & 0xFF), static_cast<char>(u >> 8)}));
+}
+
+void ByteFile::putText(const QString& text, qsizetype length) {
+  QByteArray bytes = toAnsi(text.left(length));
+  bytes.append(length - bytes.size(), ' ');
+  putBytes(bytes);
+}
+
+void ByteFile::close() {
+  if (m_writePath.isEmpty()) return;
+  const QString path = std::exchange(m_writePath, QString());
+  QFile file(path);
+  if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate) || file.write(m_bytes) != m_bytes.size())
+    throw RuntimeFailure(Failure::PathFileAccess, path);
+}
+
+}  // namespace fh

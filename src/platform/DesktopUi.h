@@ -1,0 +1,18 @@
+#pragma once
+
+#include "platform/Ui.h"
+
+namespace fh {
+
+// The Ui of the running program: Qt's dialogs and event loop.
+class DesktopUi final : public Ui {
+ public:
+  Answer messageBox(const QString& text, Buttons buttons, const QString& title) override;
+  QString inputBox(const QString& prompt, const QString& title) override;
+  void selectAll(QLineEdit& box) override;
+  void showModal(QWidget& form) override;
+  void yield() override;
+  void quit(int exitCode) override;
+};
+
+}  // namespace fh

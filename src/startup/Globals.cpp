@@ -1,0 +1,37 @@
+#include "startup/Globals.h"
+
+#include "sound/cSoundMgr.h"
+#include "world/cSet.h"
+#include "world/cShot.h"
+
+namespace fh {
+
+QString DatabasePath;
+QString ResourcePath;
+QString MasterPassword;
+
+std::int32_t CurrentUserID = 0;
+QString CurrentUserName;
+i16 CurrentShotIndex = 0;
+float GameElapsedTime = 0;
+bool UserHasWonGame = false;
+i16 BaseStateADR = 0;
+i16 BaseObjectADR = 0;
+i16 CurrentScore = 0;
+bool ModalOpen = false;
+i16 ActiveComputerScreen = 0;
+
+std::shared_ptr<cSet> CurrentSet;
+std::shared_ptr<cShot> CurrentShot;
+
+QString StartSetFile;
+i16 GameMode = 1;
+i16 TVChannel = 0;
+QString LastDialogText;
+
+cSoundMgr& SoundMgr() {
+  static cSoundMgr instance;
+  return instance;
+}
+
+}  // namespace fh

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "platform/Values.h"
+
+#include <QString>
+
+#include <memory>
+
+// The program-wide variables. No object owns them; every subsystem reads and writes them directly.
+namespace fh {
+
+class cSet;
+class cShot;
+class cSoundMgr;
+
+// The program's folder + "Database\": the folder of the database and of the world files.
+extern QString DatabasePath;
+// The root of the resource tree, ending in a backslash; upper-cased when read from the settings.
+extern QString ResourcePath;
+// The teacher's password.
+extern QString MasterPassword;
+
+extern std::int32_t CurrentUserID;
+extern QString CurrentUserName;
+extern i16 CurrentShotIndex;
+extern float GameElapsedTime;  // play time in days
+extern bool UserHasWonGame;
+extern i16 BaseStateADR;
+extern i16 BaseObjectADR;
+extern i16 CurrentScore;
+extern bool ModalOpen;
+extern i16 ActiveComputerScreen;
+
+extern std::shared_ptr<cSet> CurrentSet;
+extern std::shared_ptr<cShot> CurrentShot;
+
+extern QString StartSetFile;
+extern i16 GameMode;  // 1 play, 0 edit
+extern i16 TVChannel;
+extern QString LastDialogText;
+
+// The one sound manager, created on first use.
+cSoundMgr& SoundMgr();
+
+}  // namespace fh

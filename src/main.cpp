@@ -1,6 +1,15 @@
 #include "platform/Application.h"
+#include "platform/Guard.h"
+#include "startup/Main.h"
+
+#include <QWidget>
 
 int main(int argc, char** argv) {
   fh::Application app(argc, argv);
+  fh::guarded("start-up", fh::Main);
+
+  // The program ends through its windows; with none left up there is nothing to wait for.
+  for (const QWidget* window : QApplication::topLevelWidgets())
+    if (window->isVisible()) return QApplication::exec();
   return 0;
 }

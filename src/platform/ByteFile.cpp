@@ -64,7 +64,8 @@ void ByteFile::putBytes(const QByteArray& bytes) {
 
 void ByteFile::putInteger(i16 value) {
   const auto u = static_cast<std::uint16_t>(value);
-  putBytes(QByteArray({static_cast<char>(u & 0xFF), static_cast<char>(u >> 8)}));
+  const char bytes[2] = {static_cast<char>(u & 0xFF), static_cast<char>(u >> 8)};
+  putBytes(QByteArray(bytes, 2));
 }
 
 void ByteFile::putText(const QString& text, qsizetype length) {

@@ -1,1 +1,43 @@
-// Main
+#include "startup/Main.h"
+
+#include "platform/Failure.h"
+#include "platform/FileNames.h"
+#include "platform/Settings.h"
+#include "platform/Ui.h"
+#include "sound/cSoundMgr.h"
+#include "startup/Globals.h"
+#include "startup/frmSetup.h"
+
+namespace fh {
+
+void Main() {
+  InitProgram();
+  while (!ResourcesPresent()) {
+    if (MsgBox(QStringLiteral("Unable to locate resource directory. Please re-install the game and try again."),
+               Buttons::OkCancel) == Answer::Cancel)
+      EndProgram();
+  }
+  // Not yet: show Splash, not modally; the opening screen arrives with the game course.
+}
+
+void InitProgram() {
+  QString folder = programFolder();
+  if (!folder.endsWith(u'\\')) folder += u'\\';
+  DatabasePath = folder + QStringLiteral("Database\\");
+
+  MasterPassword = QStringLiteral("oakmeadow");
+
+  ResourcePath = GetSetting(QStringLiteral("Fernhollow"), QStringLiteral("Settings"), QStringLiteral("ResourcePath"), {}).toUpper();
+  while (!ResourcesPresent()) ui().showModal(setupForm());
+
+  // No guard here: a PanBase that is no 16-bit number stops the program.
+  SoundMgr().PanBase = CInt(GetSetting(QStringLiteral("Fernhollow"), QStringLiteral("Settings"), QStringLiteral("PanBase"), QStringLiteral("1")));
+}
+
+bool ResourcesPresent() {
+  // An empty ResourcePath looks in the working directory, which is how a first run finds the tree
+  // when the game is started inside it.
+  return !firstMatchingFile(ResourcePath + QStringLiteral("Graphics\\*.*")).isEmpty();
+}
+
+}  // namespace fh

@@ -1,0 +1,87 @@
+#include "platform/Failure.h"
+#include "platform/Guard.h"
+#include "platform/Pictures.h"
+#include "platform/Ui.h"
+
+#include "ScriptedUi.h"
+#include "TempFolder.h"
+
+#include <QImage>
+
+#include <gtest/gtest.h>
+
+using namespace fh;
+using fh::test::QuitCalled;
+using fh::test::ScriptedUi;
+using fh::test::Shown;
+using fh::test::TempFolder;
+
+TEST(EntryGuard, ReportsARunTimeFailureAndEndsTheProgram) {
+  ScriptedUi ui;
+  try {
+    guarded("frmSetup OK", [] { throw RuntimeFailure(Failure::ItemNotFound, QStringLiteral("query 'GetAllSprites'")); });
+    FAIL() << "the program went on";
+  } catch (const QuitCalled& quit) {
+    EXPECT_EQ(quit.exitCode, 1);
+  }
+  ASSERT_EQ(ui.messageBoxes().size(), 1u);
+  const Shown report = ui.messageBoxes().front();
+  EXPECT_TRUE(report.text.contains(QStringLiteral("'3265'")));
+  EXPECT_TRUE(report.text.contains(QStringLiteral("Item not found (query 'GetAllSprites')")));
+  EXPECT_TRUE(report.text.contains(QStringLiteral("frmSetup OK")));
+  EXPECT_EQ(report.title, QStringLiteral("Fernhollow"));
+}
+
+TEST(EntryGuard, EndingTheProgramIsQuietAndNormalRunsPassThrough) {
+  ScriptedUi ui;
+  try {
+    guarded("Quit", [] { EndProgram(); });
+    FAIL();
+  } catch (const QuitCalled& quit) {
+    EXPECT_EQ(quit.exitCode, 0);
+  }
+  EXPECT_TRUE(ui.shown().empty());
+  bool ran = false;
+  guarded("tick", [&] { ran = true; });
+  EXPECT_TRUE(ran);
+}
+
+TEST(EntryGuard, ReportsOtherExceptionsToo) {
+  ScriptedUi ui;
+  EXPECT_THROW(guarded("load", [] { throw std::bad_alloc(); }), QuitCalled);
+  ASSERT_EQ(ui.messageBoxes().size(), 1u);
+  EXPECT_TRUE(ui.messageBoxes().front().text.contains(QStringLiteral("load")));
+}
+
+TEST(MessageBoxes, WithoutATitleShowTheApplicationsTitle) {
+  ScriptedUi ui{{Answer::Cancel}};
+  EXPECT_EQ(MsgBox(QStringLiteral("Sure?"), Buttons::OkCancel), Answer::Cancel);
+  EXPECT_EQ(MsgBox(QStringLiteral("File badness"), Buttons::Ok, QStringLiteral("Set header mismatch")), Answer::Ok);
+  ASSERT_EQ(ui.messageBoxes().size(), 2u);
+  EXPECT_EQ(ui.messageBoxes()[0].title, QStringLiteral("Fernhollow"));
+  EXPECT_EQ(ui.messageBoxes()[0].buttons, Buttons::OkCancel);
+  EXPECT_EQ(ui.messageBoxes()[1].title, QStringLiteral("Set header mismatch"));
+}
+
+TEST(Pictures, LoadBitmapsAndFailClearlyOtherwise) {
+  TempFolder tree;
+  QImage made(5, 3, QImage::Format_Indexed8);
+  made.setColorCount(2);
+  made.fill(1);
+  ASSERT_TRUE(made.save(tree.at(QStringLiteral("Slide01.bmp")), "BMP"));
+  EXPECT_EQ(LoadPicture(tree.path() + QStringLiteral("\\slide01.BMP")).size(), QSize(5, 3));
+
+  tree.write(QStringLiteral("broken.bmp"), "not a picture");
+  try {
+    LoadPicture(tree.path() + QStringLiteral("\\broken.bmp"));
+    FAIL();
+  } catch (const RuntimeFailure& failure) {
+    EXPECT_EQ(failure.kind(), Failure::InvalidPicture);
+  }
+  try {
+    LoadPicture(tree.path() + QStringLiteral("\\missing.bmp"));
+    FAIL();
+  } catch (const RuntimeFailure& failure) {
+    EXPECT_EQ(failure.kind(), Failure::FileNotFound);
+  }
+}

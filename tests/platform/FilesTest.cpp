@@ -1,0 +1,129 @@
+#include "platform/Ansi.h"
+#include "platform/ByteFile.h"
+#include "platform/Failure.h"
+#include "platform/FileNames.h"
+#include "platform/Settings.h"
+
+#include "TempFolder.h"
+
+#include <QFile>
+
+#include <gtest/gtest.h>
+
+using namespace fh;
+using fh::test::TempFolder;
+using fh::test::WorkingDirectory;
+
+TEST(FileNameResolution, MatchesEveryComponentWithoutRegardToCase) {
+  TempFolder tree;
+  const QString menu = tree.write(QStringLiteral("Res/Graphics/Menu.bmp"));
+  EXPECT_EQ(resolveFileName(tree.path() + QStringLiteral("\\RES\\graphics\\MENU.BMP")), menu);
+  EXPECT_EQ(resolveFileName(tree.path() + QStringLiteral("/res\\Graphics/menu.bmp")), menu);
+  // An upper-cased resource path still finds the real folders from the root down.
+  EXPECT_EQ(resolveFileName(tree.path().toUpper() + QStringLiteral("\\RES\\GRAPHICS\\MENU.BMP")), menu);
+}
+
+TEST(FileNameResolution, PrefersTheExactSpellingAndKeepsMissingPartsAsWritten) {
+  TempFolder tree;
+  tree.write(QStringLiteral("Audio/click.wav"));
+  const QString exact = tree.write(QStringLiteral("Audio/Click.wav"));
+  EXPECT_EQ(resolveFileName(tree.path() + QStringLiteral("/audio/Click.wav")), exact);
+  EXPECT_EQ(resolveFileName(tree.path() + QStringLiteral("/AUDIO/New Folder\\Song.mid")),
+            tree.path() + QStringLiteral("/Audio/New Folder/Song.mid"));
+}
+
+TEST(FileNameResolution, RelativeNamesStartAtTheWorkingDirectory) {
+  TempFolder tree;
+  const QString file = tree.write(QStringLiteral("Graphics/opening.bmp"));
+  WorkingDirectory here(tree.path());
+  EXPECT_EQ(resolveFileName(QStringLiteral("graphics\\Opening.BMP")), file);
+  EXPECT_TRUE(fileExists(QStringLiteral("GRAPHICS\\OPENING.BMP")));
+  EXPECT_FALSE(fileExists(QStringLiteral("GRAPHICS")));  // a folder is no file
+}
+
+TEST(DirectoryQuery, FindsOrdinaryFilesOnly) {
+  TempFolder tree;
+  tree.makeFolder(QStringLiteral("Graphics/Sub"));
+  tree.write(QStringLiteral("Graphics/.hidden"));
+  EXPECT_EQ(firstMatchingFile(tree.path() + QStringLiteral("\\GRAPHICS\\*.*")), QString());
+  tree.write(QStringLiteral("Graphics/noext"));
+  tree.write(QStringLiteral("Graphics/b.bmp"));
+  EXPECT_EQ(firstMatchingFile(tree.path() + QStringLiteral("\\GRAPHICS\\*.*")), QStringLiteral("b.bmp"));
+  EXPECT_EQ(firstMatchingFile(tree.path() + QStringLiteral("\\Graphics\\*.BMP")), QStringLiteral("b.bmp"));
+  EXPECT_EQ(firstMatchingFile(tree.path() + QStringLiteral("\\Graphics\\?oext")), QStringLiteral("noext"));
+}
+
+TEST(DirectoryQuery, MissingOrOddFoldersGiveNothingAndNeverFail) {
+  TempFolder tree;
+  EXPECT_EQ(firstMatchingFile(tree.path() + QStringLiteral("\\Nowhere\\*.*")), QString());
+  EXPECT_EQ(firstMatchingFile(QStringLiteral("\\\\\\")), QString());
+  EXPECT_EQ(firstMatchingFile(QString()), QString());
+  EXPECT_EQ(firstMatchingFile(QStringLiteral("/proc/1/root/nothing/*.*")), QString());
+}
+
+TEST(DeletingFiles, ReportsWhetherAFileWent) {
+  TempFolder tree;
+  const QString file = tree.write(QStringLiteral("Database/Old.set"));
+  EXPECT_TRUE(deleteFile(tree.path() + QStringLiteral("\\database\\old.SET")));
+  EXPECT_FALSE(QFile::exists(file));
+  EXPECT_FALSE(deleteFile(tree.path() + QStringLiteral("\\database\\old.SET")));
+}
+
+TEST(WesternText, EveryByteSurvivesAReadAndAWrite) {
+  QByteArray all;
+  for (int b = 0; b < 256; ++b) all += static_cast<char>(b);
+  EXPECT_EQ(toAnsi(fromAnsi(all)), all);
+  EXPECT_EQ(fromAnsi(QByteArray("\x80\xE9\x93", 3)), QStringLiteral("\u20AC\u00E9\u201C"));
+  EXPECT_EQ(toAnsi(QStringLiteral("\u20ACx\u4E2D")), QByteArray("\x80x?", 3));
+}
+
+TEST(ByteFiles, WriteLittleEndianIntegersAndPaddedText) {
+  TempFolder tree;
+  ByteFile out = ByteFile::openForWriting(tree.path() + QStringLiteral("/a.bin"));
+  out.putInteger(1);
+  out.putInteger(-1);
+  out.putBoolean(true);
+  out.putBoolean(false);
+  out.putText(QStringLiteral("ab"), 4);
+  out.putText(QStringLiteral("abcdef"), 3);
+  out.close();
+  QFile written(tree.path() + QStringLiteral("/a.bin"));
+  ASSERT_TRUE(written.open(QIODevice::ReadOnly));
+  EXPECT_EQ(written.readAll(), QByteArray("\x01\x00\xFF\xFF\xFF\xFF\x00\x00" "ab  abc", 15));
+}
+
+TEST(ByteFiles, ReadBackWhatWasWrittenAndFailPastTheEnd) {
+  ByteFile in = ByteFile::fromBytes(QByteArray("\x34\x12\x00\x80Set", 7));
+  EXPECT_EQ(in.getInteger(), 0x1234);
+  EXPECT_EQ(in.getInteger(), -32768);
+  EXPECT_EQ(in.getText(3), QStringLiteral("Set"));
+  EXPECT_EQ(in.remaining(), 0);
+  try {
+    in.getInteger();
+    FAIL() << "read past the end";
+  } catch (const RuntimeFailure& failure) {
+    EXPECT_EQ(failure.kind(), Failure::InputPastEndOfFile);
+  }
+  ByteFile half = ByteFile::fromBytes(QByteArray("\x01", 1));
+  EXPECT_THROW(half.getInteger(), RuntimeFailure);
+}
+
+TEST(ByteFiles, OpeningFailsClearlyForMissingFilesAndFolders) {
+  TempFolder tree;
+  try {
+    ByteFile::openForReading(tree.path() + QStringLiteral("\\missing.set"));
+    FAIL();
+  } catch (const RuntimeFailure& failure) {
+    EXPECT_EQ(failure.kind(), Failure::FileNotFound);
+    EXPECT_TRUE(failure.message().contains(QStringLiteral("missing.set")));
+  }
+  EXPECT_THROW(ByteFile::openForWriting(tree.path() + QStringLiteral("\\no\\such\\folder\\x.set")), RuntimeFailure);
+}
+
+TEST(SettingsStore, KeepsTextPerApplicationSectionAndKey) {
+  EXPECT_EQ(GetSetting(QStringLiteral("FhTest"), QStringLiteral("Settings"), QStringLiteral("Missing"), QStringLiteral("1")),
+            QStringLiteral("1"));
+  SaveSetting(QStringLiteral("FhTest"), QStringLiteral("Settings"), QStringLiteral("ResourcePath"), QStringLiteral("/cd\\"));
+  EXPECT_EQ(GetSetting(QStringLiteral("FhTest"), QStringLiteral("Settings"), QStringLiteral("ResourcePath")), QStringLiteral("/cd\\"));
+  EXPECT_EQ(GetSetting(QStringLiteral("FhTest"), QStringLiteral("Other"), QStringLiteral("ResourcePath")), QString());
+}

@@ -1,0 +1,88 @@
+#include "startup/DirectoryLists.h"
+#include "startup/Globals.h"
+#include "startup/frmSetup.h"
+
+#include "ScriptedUi.h"
+#include "TempFolder.h"
+
+#include <QLabel>
+#include <QPushButton>
+#include <QStorageInfo>
+
+#include <gtest/gtest.h>
+
+using namespace fh;
+using fh::test::QuitCalled;
+using fh::test::ScriptedUi;
+using fh::test::TempFolder;
+
+TEST(SetupForm, HasTheLayoutAndTextsOfTheDialog) {
+  frmSetup& form = setupForm();
+  EXPECT_EQ(form.windowTitle(), QStringLiteral("Can't see the CD!"));
+  EXPECT_EQ(form.size(), QSize(574, 167));
+  EXPECT_EQ(form.Label1->text(), QStringLiteral("Resource Directory"));
+  EXPECT_EQ(form.Label1->geometry(), QRect(12, 16, 167, 20));
+  EXPECT_EQ(form.Drive1->geometry(), QRect(12, 40, 164, 21));
+  EXPECT_EQ(form.Dir1->geometry(), QRect(12, 64, 164, 96));
+  EXPECT_TRUE(form.Label2->text().startsWith(QStringLiteral("The Fernhollow CD was not detected.  Please make sure")));
+  EXPECT_TRUE(form.Label2->text().endsWith(QStringLiteral("use the controls to the left to point to the new location.")));
+  EXPECT_EQ(form.Label2->geometry(), QRect(194, 22, 363, 91));
+  EXPECT_EQ(form.btnCancel->text(), QStringLiteral("Quit"));
+  EXPECT_EQ(form.btnCancel->geometry(), QRect(196, 122, 88, 35));
+  EXPECT_EQ(form.btnOK->text(), QStringLiteral("OK"));
+  EXPECT_EQ(form.btnOK->geometry(), QRect(456, 122, 101, 37));
+  EXPECT_TRUE(form.btnOK->isDefault());
+}
+
+TEST(SetupForm, ComingUpShowsTheRootOfTheChosenDrive) {
+  TempFolder tree;
+  frmSetup& form = setupForm();
+  form.Dir1->setPath(tree.path());
+  form.show();
+  EXPECT_EQ(form.Dir1->path(), form.Drive1->drive());
+  EXPECT_EQ(form.Drive1->drive(), QStorageInfo(QDir::currentPath()).rootPath());
+  form.hide();
+}
+
+TEST(SetupForm, ADriveRootGetsNoSecondSeparator) {
+  ScriptedUi ui;
+  frmSetup& form = setupForm();
+  form.Dir1->setPath(QStringLiteral("/"));
+  form.btnOK_Click();
+  EXPECT_EQ(ResourcePath, QStringLiteral("/"));
+}
+
+TEST(SetupForm, EscapeIsQuit) {
+  ScriptedUi ui;
+  frmSetup& form = setupForm();
+  form.show();
+  try {
+    form.reject();
+    FAIL() << "Escape did not end the program";
+  } catch (const QuitCalled& quit) {
+    EXPECT_EQ(quit.exitCode, 0);
+  }
+  EXPECT_FALSE(form.isVisible());
+}
+
+TEST(FolderList, ShowsTheChainFromTheRootAndTheSubFolders) {
+  TempFolder tree;
+  tree.makeFolder(QStringLiteral("Game/audio"));
+  tree.makeFolder(QStringLiteral("Game/Graphics"));
+  tree.write(QStringLiteral("Game/readme.txt"));
+  DirList list;
+  list.setPath(tree.path() + QStringLiteral("/Game"));
+
+  const int depth = static_cast<int>(QDir::cleanPath(tree.path() + QStringLiteral("/Game")).count(u'/')) + 1;
+  ASSERT_EQ(list.count(), depth + 2);  // files are not listed
+  EXPECT_EQ(list.item(0)->text(), QStringLiteral("/"));
+  EXPECT_EQ(list.item(depth - 1)->text().trimmed(), QStringLiteral("Game"));
+  EXPECT_EQ(list.currentRow(), depth - 1);
+  EXPECT_EQ(list.item(depth)->text().trimmed(), QStringLiteral("audio"));
+  EXPECT_EQ(list.item(depth + 1)->text().trimmed(), QStringLiteral("Graphics"));
+
+  list.openRow(depth + 1);
+  EXPECT_EQ(list.path(), tree.path() + QStringLiteral("/Game/Graphics"));
+  list.openRow(0);
+  EXPECT_EQ(list.path(), QStringLiteral("/"));
+}

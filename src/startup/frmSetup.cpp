@@ -11,6 +11,7 @@
 #include <QCloseEvent>
 #include <QLabel>
 #include <QPushButton>
+#include <QScreen>
 
 namespace fh {
 
@@ -57,6 +58,7 @@ frmSetup::frmSetup(QWidget* parent) : QDialog(parent) {
 void frmSetup::showDriveRoot() { Dir1->setPath(Drive1->drive()); }
 
 void frmSetup::showEvent(QShowEvent* event) {
+  if (const QScreen* screen = this->screen()) move(screen->geometry().center() - rect().center());
   // Each time the dialog comes up it shows the root of the chosen drive, not the folder last chosen.
   Drive1->refresh();
   showDriveRoot();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/Values.h"
+#include "world/SetFileFields.h"
 
 #include <QString>
 
@@ -15,6 +16,9 @@ class cShot;
 // The world: its shots, read from and written to a set file.
 class cSet {
  public:
+  // A set record without shots.
+  static constexpr qsizetype kEmptyRecordSize = 71;
+
   cSet();
   ~cSet();
 
@@ -24,9 +28,11 @@ class cSet {
   i16 nNumShots = 0;
   std::vector<std::shared_ptr<cShot>> Shots;  // nNumShots shots, index 0 first
 
+  // Appends the record and its shots at the file's position.
   void Save(ByteFile& file) const;
-  // Reads the set record and its shots; then the assets would be loaded from the database.
-  void Load(ByteFile& file);
+  // Reads the record and its shots from the file's position; then the assets would be loaded from
+  // the database.
+  void Load(ByteFile& file, const SetReading& reading = {});
 };
 
 }  // namespace fh

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/Values.h"
+#include "world/SetFileFields.h"
 
 #include <QString>
 
@@ -15,6 +16,9 @@ class cHotSpot;
 // One fixed view of the house with its neighbours and hotspots.
 class cShot {
  public:
+  // A shot record without hotspots.
+  static constexpr qsizetype kEmptyRecordSize = 200;
+
   cShot();
   ~cShot();
 
@@ -26,8 +30,10 @@ class cShot {
   i16 NumHotSpots = 0;
   std::vector<std::shared_ptr<cHotSpot>> HotSpots;  // NumHotSpots hotspots, index 0 first
 
+  // Appends the record and its hotspots at the file's position.
   void Save(ByteFile& file) const;
-  void Load(ByteFile& file);
+  // Reads the record and its hotspots from the file's position.
+  void Load(ByteFile& file, const SetReading& reading = {});
 };
 
 }  // namespace fh

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <QString>
+
+namespace fh {
+
+// Reads the set file of this bare name from the database folder into a new CurrentSet. An empty name
+// does nothing; a missing or short file is a run-time failure.
+void LoadSet(const QString& fileName);
+
+// Writes CurrentSet to the database folder as its name + ".set", replacing any old file.
+void SaveSet();
+
+}  // namespace fh

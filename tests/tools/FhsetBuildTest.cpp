@@ -1,0 +1,78 @@
+#include "WorldBuild.h"
+#include "WorldFixtures.h"
+
+#include <gtest/gtest.h>
+
+namespace fh::test {
+namespace {
+
+using fhset::buildSet;
+
+TEST(FhsetBuild, HandWrittenWorldTakesCountsFromItsRecordsAndDefaultsForTheRest) {
+  const fhset::Built built = buildSet(
+      "\xEF\xBB\xBF# authored by hand\r\n"
+      "set House\r\n"
+      "shot Kitchen\n"
+      "\thotspot Tap\n"
+      "\t\tdo   toggle tap   \n"
+      "\t\tdo\n"
+      "\thotspot Fridge\n"
+      "shot Garden\n",
+      QStringLiteral("house.txt"));
+  ASSERT_EQ(built.problems, QStringList());
+  const cSet& set = *built.set;
+  EXPECT_EQ(set.sName, QStringLiteral("House"));
+  EXPECT_EQ(set.nNumShots, 2);
+  EXPECT_EQ(set.nCurrentShot, -1);
+  const cShot& kitchen = *set.Shots[0];
+  EXPECT_EQ(kitchen.NumHotSpots, 2);
+  const cHotSpot& tap = *kitchen.HotSpots[0];
+  EXPECT_EQ(tap.NumScriptLines, 2);
+  EXPECT_EQ(tap.ScriptLines, QStringList({QStringLiteral("toggle tap"), QString()}));
+  EXPECT_EQ(tap.Icon, 5);
+  EXPECT_TRUE(tap.Enabled);
+  EXPECT_EQ(set.Shots[1]->NumHotSpots, 0);
+}
+
+TEST(FhsetBuild, ProblemsAreToldWithTheirLinesAndNothingIsBuilt) {
+  struct Case {
+    const char* text;
+    QString problem;
+  };
+  const Case cases[] = {
+      {"left 5\n", "w.txt:1: 'left' belongs in a hotspot, and none is open here"},
+      {"set S\nshot A\nhotspot H\nto-left B\n", "w.txt:4: 'to-left' belongs to a shot, whose fields come before its first hotspot"},
+      {"set S\nshot A\ncurrent-shot 0\n", "w.txt:3: 'current-shot' belongs to the set, whose fields come before its first shot"},
+      {"set S\ncolour red\n", "w.txt:2: unknown key 'colour'; the keys here are current-shot, header, shot"},
+      {"set S\ncurrent-shot 1\ncurrent-shot 2\n", "w.txt:3: 'current-shot' is given twice in this record; the first is on line 2"},
+      {"set S\ncurrent-shot one\n", "w.txt:2: 'one' is not a whole number"},
+      {"set S\ncurrent-shot 32768\n", "w.txt:2: 32768 is out of range; numbers run from -32768 to 32767"},
+      {"set S\nshot A\nelapsed-time maybe\n", "w.txt:3: expected yes or no, not 'maybe'"},
+      {"set S\nshot A\nhotspot H\ndo 12345678901234567890123456789012345678901234567890123456789012345\n",
+       "w.txt:4: the text is 65 characters long; a set file keeps 64, and the game would lose the rest"},
+      {"set S\nheader Sets\n", "w.txt:2: the header of the set must be 3 characters long, as the game reads 3 bytes for it; this one has 4"},
+      {"set \"S\n", "w.txt:1: a text that begins with a double quote must end with one"},
+      {"set \"a\\qb\"\n", "w.txt:1: unknown escape; the escapes are \\\\, \\\" and \\x followed by two hex digits"},
+      {"set a\tb\n", "w.txt:1: the control character U+0009 must be written as \\x09 inside double quotes"},
+      {"set \xE2\x98\x83\n", "w.txt:1: '\u2603' (U+2603) is not a Windows-1252 character, and set files hold only those"},
+      {"set \xFF\n", "w.txt:1: the line is not valid UTF-8 text"},
+      {"shot A\n", "w.txt:1: a shot needs the 'set' line before it"},
+      {"set S\nhotspot H\n", "w.txt:2: a hotspot needs a 'shot' line before it"},
+      {"set S\nset T\n", "w.txt:2: a world file holds one set, and it began on line 1"},
+      {"# nothing\n", "w.txt:1: there is no 'set' line; a world file begins with 'set' and the set's name"},
+  };
+  for (const Case& c : cases) {
+    const fhset::Built built = buildSet(c.text, QStringLiteral("w.txt"));
+    EXPECT_EQ(built.problems, QStringList({c.problem})) << c.text;
+    EXPECT_EQ(built.set, nullptr) << c.text;
+  }
+}
+
+TEST(FhsetBuild, EveryProblemIsToldNotOnlyTheFirst) {
+  const fhset::Built built = buildSet("set S\nshot A\n  elapsed-time 1\n  hotspot H\n    left x\n    top 2\n", QStringLiteral("w.txt"));
+  EXPECT_EQ(built.problems, QStringList({QStringLiteral("w.txt:3: expected yes or no, not '1'"),
+                                         QStringLiteral("w.txt:5: 'x' is not a whole number")}));
+}
+
+}  // namespace
+}  // namespace fh::test

@@ -1,0 +1,26 @@
+#include "QuietUi.h"
+
+#include "platform/Failure.h"
+
+namespace fh::fhset {
+
+QuietUi::QuietUi() : m_previous(setUi(this)) {}
+
+QuietUi::~QuietUi() { setUi(m_previous); }
+
+Answer QuietUi::messageBox(const QString&, Buttons, const QString&) {
+  ++m_messageBoxes;
+  return Answer::Ok;
+}
+
+QString QuietUi::inputBox(const QString&, const QString&) { return {}; }
+
+void QuietUi::selectAll(QLineEdit&) {}
+
+void QuietUi::showModal(QWidget&) {}
+
+void QuietUi::yield() {}
+
+void QuietUi::quit(int) { throw ProgramEnded(); }
+
+}  // namespace fh::fhset

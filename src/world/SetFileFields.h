@@ -1,8 +1,12 @@
 #pragma once
 
+#include "platform/Failure.h"
 #include "platform/Values.h"
 
 #include <QString>
+
+#include <memory>
+#include <vector>
 
 namespace fh {
 
@@ -33,6 +37,29 @@ QString getText(ByteFile& file, const SetReading& reading);
 // file could hold. A negative count fails, as the game's array of 0 to count did; the count that was
 // read stays in the record.
 qsizetype roomFor(const ByteFile& file, i16 count, qsizetype recordSize, const char* what);
+
+// Reads `count` child records. Each is stored before it is read, so that a file that ends early
+// leaves what it held.
+template <class Record>
+void loadRecords(ByteFile& file, i16 count, std::vector<std::shared_ptr<Record>>& records, const SetReading& reading,
+                 const char* what) {
+  records.clear();
+  records.reserve(roomFor(file, count, Record::kEmptyRecordSize, what));
+  for (i16 i = 0; i < count; ++i) {
+    records.push_back(std::make_shared<Record>());
+    records.back()->Load(file, reading);
+  }
+}
+
+// Writes the first `count` child records; a missing one fails as the game's empty slot did.
+template <class Record>
+void saveRecords(ByteFile& file, i16 count, const std::vector<std::shared_ptr<Record>>& records, const QString& owner) {
+  for (i16 i = 0; i < count; ++i) {
+    if (i >= static_cast<qsizetype>(records.size()) || !records[i])
+      throw RuntimeFailure(Failure::ObjectNotSet, QStringLiteral("record %1 of %2").arg(i).arg(owner));
+    records[i]->Save(file);
+  }
+}
 
 }  // namespace setfile
 }  // namespace fh

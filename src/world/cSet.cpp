@@ -1,7 +1,6 @@
 #include "world/cSet.h"
 
 #include "platform/ByteFile.h"
-#include "platform/Failure.h"
 #include "world/cShot.h"
 
 namespace fh {
@@ -14,11 +13,7 @@ void cSet::Save(ByteFile& file) const {
   file.putText(sName, setfile::kTextLength);
   file.putInteger(nNumShots);
   file.putInteger(nCurrentShot);
-  for (i16 i = 0; i < nNumShots; ++i) {
-    if (i >= static_cast<qsizetype>(Shots.size()) || !Shots[i])
-      throw RuntimeFailure(Failure::ObjectNotSet, QStringLiteral("shot %1").arg(i));
-    Shots[i]->Save(file);
-  }
+  setfile::saveRecords(file, nNumShots, Shots, QStringLiteral("the set"));
 }
 
 void cSet::Load(ByteFile& file, const SetReading& reading) {
@@ -26,13 +21,7 @@ void cSet::Load(ByteFile& file, const SetReading& reading) {
   sName = setfile::getText(file, reading);
   nNumShots = file.getInteger();
   nCurrentShot = file.getInteger();
-  // Each shot is stored before it is read, so a file that ends early leaves what it held.
-  Shots.clear();
-  Shots.reserve(setfile::roomFor(file, nNumShots, cShot::kEmptyRecordSize, "nNumShots"));
-  for (i16 i = 0; i < nNumShots; ++i) {
-    Shots.push_back(std::make_shared<cShot>());
-    Shots.back()->Load(file, reading);
-  }
+  setfile::loadRecords(file, nNumShots, Shots, reading, "nNumShots");
   // Not yet: the sprites and this user's containers are loaded from the database here (LoadAssets),
   // so that a set read in the game needs the database open.
 }

@@ -1,7 +1,6 @@
 #include "world/cShot.h"
 
 #include "platform/ByteFile.h"
-#include "platform/Failure.h"
 #include "world/cHotSpot.h"
 
 namespace fh {
@@ -16,11 +15,7 @@ void cShot::Save(ByteFile& file) const {
   file.putText(ShotToRight, setfile::kTextLength);
   file.putBoolean(GoElapsedTime);
   file.putInteger(NumHotSpots);
-  for (i16 i = 0; i < NumHotSpots; ++i) {
-    if (i >= static_cast<qsizetype>(HotSpots.size()) || !HotSpots[i])
-      throw RuntimeFailure(Failure::ObjectNotSet, QStringLiteral("hotspot %1 of shot '%2'").arg(i).arg(sName));
-    HotSpots[i]->Save(file);
-  }
+  setfile::saveRecords(file, NumHotSpots, HotSpots, QStringLiteral("shot '%1'").arg(sName));
   // Not yet: every saved shot gets its row in the database table Shots ("SELECT * FROM Shots WHERE
   // Name='" + sName + "'", edited or added, with only Name filled in). That needs the game database.
 }
@@ -32,13 +27,7 @@ void cShot::Load(ByteFile& file, const SetReading& reading) {
   ShotToRight = setfile::getText(file, reading);
   GoElapsedTime = file.getBoolean();
   NumHotSpots = file.getInteger();
-  // Each hotspot is stored before it is read, so a file that ends early leaves what it held.
-  HotSpots.clear();
-  HotSpots.reserve(setfile::roomFor(file, NumHotSpots, cHotSpot::kEmptyRecordSize, "NumHotSpots"));
-  for (i16 i = 0; i < NumHotSpots; ++i) {
-    HotSpots.push_back(std::make_shared<cHotSpot>());
-    HotSpots.back()->Load(file, reading);
-  }
+  setfile::loadRecords(file, NumHotSpots, HotSpots, reading, "NumHotSpots");
 }
 
 }  // namespace fh

@@ -12,7 +12,6 @@
 
 namespace fh::test {
 
-// The bytes that a record's Save writes.
 template <class Record>
 QByteArray savedBytes(const Record& record) {
   ByteFile file = ByteFile::fromBytes({});
@@ -20,12 +19,11 @@ QByteArray savedBytes(const Record& record) {
   return file.bytes();
 }
 
-// A record read from bytes with its Load.
 template <class Record>
-Record loadedFrom(const QByteArray& bytes) {
+Record loadedFrom(const QByteArray& bytes, SetReading reading = {}) {
   ByteFile file = ByteFile::fromBytes(bytes);
   Record record;
-  record.Load(file);
+  record.Load(file, reading);
   return record;
 }
 
@@ -53,12 +51,10 @@ inline cSet makeSet(const QString& name, std::vector<std::shared_ptr<cShot>> sho
   return set;
 }
 
-// A small world with something in every field: two shots, three hotspots, a few lines.
+// Two shots, three hotspots and a few lines, with something other than the default in most fields.
 inline cSet sampleSet() {
   auto door = makeHotSpot(QStringLiteral("FrontDoor"), {QStringLiteral("goto shot hall"), QStringLiteral("playlocal door")});
   door->Left = 120;
-  door->Top = 40;
-  door->Width = 80;
   door->Height = 200;
   door->Quiet = true;
   door->Rollover = QStringLiteral("showdialogstring front door");
@@ -67,10 +63,8 @@ inline cSet sampleSet() {
   lamp->Icon = -3;
   auto porch = makeShot(QStringLiteral("Porch"), {door, lamp});
   porch->ShotToLeft = QStringLiteral("Garden");
-  porch->ShotToRight = QStringLiteral("Hall");
   porch->GoElapsedTime = true;
-  auto hall = makeShot(QStringLiteral("Hall"), {makeHotSpot(QStringLiteral("Stairs"))});
-  cSet set = makeSet(QStringLiteral("Fernhollow"), {porch, hall});
+  cSet set = makeSet(QStringLiteral("Fernhollow"), {porch, makeShot(QStringLiteral("Hall"), {makeHotSpot(QStringLiteral("Stairs"))})});
   set.nCurrentShot = 1;
   return set;
 }

@@ -91,7 +91,7 @@ class WorldParser {
 
  private:
   void problem(const QString& sentence) {
-    m_problems += QStringLiteral("%1:%2: %3").arg(m_fileName).arg(m_line).arg(sentence);
+    m_problems += QStringLiteral("%1:%2: %3").arg(m_fileName, QString::number(m_line), sentence);
   }
 
   // A new record: it is open until the next one begins, and takes the fields that follow.

@@ -54,7 +54,7 @@ class DumpWriter {
   void writeSet(const cSet& set, const QString& fileName) {
     m_text += QStringLiteral("# Fernhollow world file, text form of %1\n").arg(fileName);
     field(0, QStringLiteral("set"), set.sName);
-    checkHeader(1, set.sHeader, QStringLiteral("Set"), QStringLiteral("the set"));
+    checkHeader(0, set.sHeader, QStringLiteral("Set"), QStringLiteral("the set"));
     const qsizetype countAt = tagSize(set.sHeader) + setfile::kTextLength;
     checkEnding(0, &set, QStringLiteral("the set"), {set.nNumShots, set.Shots.size(), countAt, "shot"});
     field(0, QStringLiteral("current-shot"), QString::number(set.nCurrentShot));
@@ -159,7 +159,7 @@ class DumpWriter {
     // The last child that a parent holds is the one that was being read.
     const std::size_t complete = stoppedHere ? children.held : children.held - 1;
     if (children.count > 0 && complete < static_cast<std::size_t>(children.count))
-      note(depth, children.countAt, QStringLiteral("%1 counts %2; the reading stops after %3 of them").arg(label, children.counted()).arg(complete));
+      note(depth, children.countAt, QStringLiteral("%1 counts %2; the reading stops after %3 of them").arg(label, children.counted(), QString::number(complete)));
   }
 
   const Ending& m_ending;

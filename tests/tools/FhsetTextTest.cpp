@@ -1,0 +1,78 @@
+#include "WorldBuild.h"
+#include "WorldDump.h"
+#include "WorldFixtures.h"
+
+#include <QDir>
+#include <QFile>
+
+#include <gtest/gtest.h>
+
+namespace fh::test {
+namespace {
+
+using fhset::buildSet;
+using fhset::dumpSetFile;
+
+QByteArray rebuilt(const QByteArray& bytes) {
+  const fhset::Dump dump = dumpSetFile(bytes, QStringLiteral("world.set"));
+  const fhset::Built built = buildSet(dump.text.toUtf8(), QStringLiteral("world.txt"));
+  EXPECT_EQ(built.problems, QStringList()) << dump.text.toStdString();
+  return built.set ? savedBytes(*built.set) : QByteArray();
+}
+
+QByteArray contentOf(const QString& path) {
+  QFile file(path);
+  return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+// The fuzz seeds come in pairs: a world file and its dump, which also shows the text form.
+TEST(FhsetText, SeedWorldsAndTheirTextsAreEachOthersImage) {
+  const QDir seeds(QStringLiteral(FH_SEEDS_FOLDER));
+  const QStringList worlds = seeds.entryList({QStringLiteral("*.set")});
+  ASSERT_GE(worlds.size(), 3);
+  for (const QString& world : worlds) {
+    const QByteArray bytes = contentOf(seeds.filePath(world));
+    const QByteArray text = contentOf(seeds.filePath(QString(world).replace(QStringLiteral(".set"), QStringLiteral(".txt"))));
+    EXPECT_EQ(dumpSetFile(bytes, world).text.toUtf8(), text) << world.toStdString();
+    const fhset::Built built = buildSet(text, world);
+    ASSERT_TRUE(built.set) << world.toStdString();
+    EXPECT_EQ(savedBytes(*built.set), bytes) << world.toStdString();
+  }
+}
+
+TEST(FhsetText, EveryWorldTheProgramWritesComesBackByteForByte) {
+  EXPECT_EQ(rebuilt(savedBytes(sampleSet())), savedBytes(sampleSet()));
+
+  // What an author may have typed: leading blanks, quotes, backslashes, control and Western characters.
+  auto odd = makeHotSpot(QStringLiteral("  spaced"), {QStringLiteral("   indented"), QStringLiteral("\"quoted\" \\ path\\x41"),
+                                                      QStringLiteral("tab\there"), QStringLiteral("\u00A0\u20AC \u00E9\u0081"),
+                                                      QString(64, u'x'), QStringLiteral("#not a comment")});
+  odd->Icon = -32768;
+  auto shot = makeShot(QString(), {odd});
+  shot->ShotToLeft = QStringLiteral("\"");
+  shot->sHeader = QString::fromLatin1("S\0 t", 4);
+  const cSet set = makeSet(QStringLiteral(" "), {shot});
+  EXPECT_EQ(rebuilt(savedBytes(set)), savedBytes(set));
+}
+
+TEST(FhsetText, DumpOfADamagedFileSaysWhereAndKeepsWhatItRead) {
+  QByteArray bytes = savedBytes(sampleSet());
+  const fhset::Dump cut = dumpSetFile(bytes.left(71 + 200 + 30), QStringLiteral("world.set"));
+  EXPECT_TRUE(cut.text.contains(QStringLiteral("\nshot Porch\n")) && cut.text.contains(QStringLiteral("\n  to-left Garden\n")));
+  EXPECT_EQ(cut.damage, QStringList({QStringLiteral("byte 67: the set counts 2 shots; the reading stops after 0 of them"),
+                                     QStringLiteral("byte 269: shot 0 (Porch) counts 2 hotspots; the reading stops after 0 of them"),
+                                     QStringLiteral("byte 301: the file ends 30 bytes into hotspot 0 of shot 0; "
+                                                    "the fields it doesn't reach are defaults")}));
+  EXPECT_EQ(dumpSetFile(bytes.left(71), QStringLiteral("world.set")).damage.last(),
+            QStringLiteral("byte 71: the file ends where shot 0 should begin; its fields are defaults"));
+  EXPECT_EQ(dumpSetFile(bytes + "xyz", QStringLiteral("world.set")).damage,
+            QStringList({QStringLiteral("byte %1: 3 bytes follow the end of the set; the game never reads them, "
+                                        "and they are left out here").arg(bytes.size())}));
+  bytes[71 + 198] = '\xFF';
+  bytes[71 + 199] = '\xFF';
+  EXPECT_EQ(dumpSetFile(bytes, QStringLiteral("world.set")).damage.last(),
+            QStringLiteral("byte 269: shot 0 (Porch) counts -1 hotspots; a negative count can't be read, and the reading stops there"));
+}
+
+}  // namespace
+}  // namespace fh::test

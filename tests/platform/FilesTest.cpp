@@ -2,17 +2,14 @@
 #include "platform/ByteFile.h"
 #include "platform/Failure.h"
 #include "platform/FileNames.h"
-#include "platform/Settings.h"
 
 #include "TempFolder.h"
 
-#include <QFile>
 
 #include <gtest/gtest.h>
 
 using namespace fh;
 using fh::test::TempFolder;
-using fh::test::WorkingDirectory;
 
 TEST(FileNameResolution, MatchesEveryComponentWithoutRegardToCase) {
   TempFolder tree;
@@ -30,15 +27,6 @@ TEST(FileNameResolution, PrefersTheExactSpellingAndKeepsMissingPartsAsWritten) {
   EXPECT_EQ(resolveFileName(tree.path() + QStringLiteral("/audio/Click.wav")), exact);
   EXPECT_EQ(resolveFileName(tree.path() + QStringLiteral("/AUDIO/New Folder\\Song.mid")),
             tree.path() + QStringLiteral("/Audio/New Folder/Song.mid"));
-}
-
-TEST(FileNameResolution, RelativeNamesStartAtTheWorkingDirectory) {
-  TempFolder tree;
-  const QString file = tree.write(QStringLiteral("Graphics/opening.bmp"));
-  WorkingDirectory here(tree.path());
-  EXPECT_EQ(resolveFileName(QStringLiteral("graphics\\Opening.BMP")), file);
-  EXPECT_TRUE(fileExists(QStringLiteral("GRAPHICS\\OPENING.BMP")));
-  EXPECT_FALSE(fileExists(QStringLiteral("GRAPHICS")));  // a folder is no file
 }
 
 TEST(DirectoryQuery, FindsOrdinaryFilesOnly) {
@@ -61,35 +49,12 @@ TEST(DirectoryQuery, MissingOrOddFoldersGiveNothingAndNeverFail) {
   EXPECT_EQ(firstMatchingFile(QStringLiteral("/proc/1/root/nothing/*.*")), QString());
 }
 
-TEST(DeletingFiles, ReportsWhetherAFileWent) {
-  TempFolder tree;
-  const QString file = tree.write(QStringLiteral("Database/Old.set"));
-  EXPECT_TRUE(deleteFile(tree.path() + QStringLiteral("\\database\\old.SET")));
-  EXPECT_FALSE(QFile::exists(file));
-  EXPECT_FALSE(deleteFile(tree.path() + QStringLiteral("\\database\\old.SET")));
-}
-
 TEST(WesternText, EveryByteSurvivesAReadAndAWrite) {
   QByteArray all;
   for (int b = 0; b < 256; ++b) all += static_cast<char>(b);
   EXPECT_EQ(toAnsi(fromAnsi(all)), all);
   EXPECT_EQ(fromAnsi(QByteArray("\x80\xE9\x93", 3)), QStringLiteral("\u20AC\u00E9\u201C"));
   EXPECT_EQ(toAnsi(QStringLiteral("\u20ACx\u4E2D")), QByteArray("\x80x?", 3));
-}
-
-TEST(ByteFiles, WriteLittleEndianIntegersAndPaddedText) {
-  TempFolder tree;
-  ByteFile out = ByteFile::openForWriting(tree.path() + QStringLiteral("/a.bin"));
-  out.putInteger(1);
-  out.putInteger(-1);
-  out.putBoolean(true);
-  out.putBoolean(false);
-  out.putText(QStringLiteral("ab"), 4);
-  out.putText(QStringLiteral("abcdef"), 3);
-  out.close();
-  QFile written(tree.path() + QStringLiteral("/a.bin"));
-  ASSERT_TRUE(written.open(QIODevice::ReadOnly));
-  EXPECT_EQ(written.readAll(), QByteArray("\x01\x00\xFF\xFF\xFF\xFF\x00\x00" "ab  abc", 15));
 }
 
 TEST(ByteFiles, ReadBackWhatWasWrittenAndFailPastTheEnd) {
@@ -118,12 +83,4 @@ TEST(ByteFiles, OpeningFailsClearlyForMissingFilesAndFolders) {
     EXPECT_TRUE(failure.message().contains(QStringLiteral("missing.set")));
   }
   EXPECT_THROW(ByteFile::openForWriting(tree.path() + QStringLiteral("\\no\\such\\folder\\x.set")), RuntimeFailure);
-}
-
-TEST(SettingsStore, KeepsTextPerApplicationSectionAndKey) {
-  EXPECT_EQ(GetSetting(QStringLiteral("FhTest"), QStringLiteral("Settings"), QStringLiteral("Missing"), QStringLiteral("1")),
-            QStringLiteral("1"));
-  SaveSetting(QStringLiteral("FhTest"), QStringLiteral("Settings"), QStringLiteral("ResourcePath"), QStringLiteral("/cd\\"));
-  EXPECT_EQ(GetSetting(QStringLiteral("FhTest"), QStringLiteral("Settings"), QStringLiteral("ResourcePath")), QStringLiteral("/cd\\"));
-  EXPECT_EQ(GetSetting(QStringLiteral("FhTest"), QStringLiteral("Other"), QStringLiteral("ResourcePath")), QString());
 }

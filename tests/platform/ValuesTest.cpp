@@ -81,15 +81,3 @@ TEST(NumberPatterns, ClockShowsTimeOfDayAndWrapsAtTwentyFourHours) {
   EXPECT_EQ(formatClock(1.0 + 61.0 / 86400), QStringLiteral("0:01:01"));
   EXPECT_EQ(formatClock(86399.6 / 86400), QStringLiteral("0:00:00"));
 }
-
-TEST(TextPositions, CountFromOne) {
-  const QString text = QStringLiteral("goto shot hall");
-  EXPECT_EQ(InStr(1, text, QStringLiteral(" ")), 5);
-  EXPECT_EQ(InStr(6, text, QStringLiteral(" ")), 10);
-  EXPECT_EQ(InStr(11, text, QStringLiteral(" ")), 0);
-  EXPECT_EQ(InStr(99, text, QStringLiteral(" ")), 0);
-  EXPECT_EQ(Mid(text, 6, 4), QStringLiteral("shot"));
-  EXPECT_EQ(Mid(text, 11), QStringLiteral("hall"));
-  EXPECT_EQ(Mid(text, 40), QString());
-  EXPECT_EQ(failureOf([&] { Mid(text, 0); }), Failure::InvalidCall);
-}

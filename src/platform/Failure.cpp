@@ -16,7 +16,16 @@ QString failureText(Failure kind) {
     case Failure::ObjectNotSet: return QStringLiteral("Object variable not set");
     case Failure::InvalidUseOfNull: return QStringLiteral("Invalid use of Null");
     case Failure::InvalidPicture: return QStringLiteral("Invalid picture");
+    case Failure::UpdateWithoutEdit: return QStringLiteral("Update or CancelUpdate without AddNew or Edit");
+    case Failure::NoCurrentRecord: return QStringLiteral("No current record");
+    case Failure::DatabaseFileNotFound: return QStringLiteral("Could not find file");
+    case Failure::TooFewParameters: return QStringLiteral("Too few parameters");
+    case Failure::TableNotFound: return QStringLiteral("Cannot find the input table or query");
+    case Failure::DatabaseFailure: return QStringLiteral("Database operation failed");
+    case Failure::FieldNotUpdatable: return QStringLiteral("Field can't be updated");
+    case Failure::RecordIsDeleted: return QStringLiteral("Record is deleted");
     case Failure::ItemNotFound: return QStringLiteral("Item not found");
+    case Failure::ObjectClosed: return QStringLiteral("Object invalid or no longer set");
   }
   return QStringLiteral("Application-defined error");
 }

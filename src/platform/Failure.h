@@ -21,7 +21,16 @@ enum class Failure : int {
   ObjectNotSet = 91,
   InvalidUseOfNull = 94,
   InvalidPicture = 481,
+  UpdateWithoutEdit = 3020,
+  NoCurrentRecord = 3021,
+  DatabaseFileNotFound = 3024,
+  TooFewParameters = 3061,
+  TableNotFound = 3078,
+  DatabaseFailure = 3146,
+  FieldNotUpdatable = 3164,
+  RecordIsDeleted = 3167,
   ItemNotFound = 3265,
+  ObjectClosed = 3420,
 };
 
 QString failureText(Failure kind);

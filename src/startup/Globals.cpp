@@ -1,5 +1,6 @@
 #include "startup/Globals.h"
 
+#include "platform/Database.h"
 #include "sound/cSoundMgr.h"
 #include "world/cSet.h"
 #include "world/cShot.h"
@@ -10,6 +11,7 @@ QString DatabasePath;
 QString ResourcePath;
 QString MasterPassword;
 
+std::shared_ptr<Database> GameDB;
 std::int32_t CurrentUserID = 0;
 QString CurrentUserName;
 i16 CurrentShotIndex = 0;

@@ -9,6 +9,7 @@
 // The program-wide variables. No object owns them; every subsystem reads and writes them directly.
 namespace fh {
 
+class Database;
 class cSet;
 class cShot;
 class cSoundMgr;
@@ -20,6 +21,8 @@ extern QString ResourcePath;
 // The teacher's password.
 extern QString MasterPassword;
 
+// The open game database, from Start to Exit.
+extern std::shared_ptr<Database> GameDB;
 extern std::int32_t CurrentUserID;
 extern QString CurrentUserName;
 extern i16 CurrentShotIndex;

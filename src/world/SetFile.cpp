@@ -1,10 +1,12 @@
 #include "world/SetFile.h"
 
 #include "platform/ByteFile.h"
+#include "platform/Database.h"
 #include "platform/Failure.h"
 #include "platform/FileNames.h"
 #include "startup/Globals.h"
 #include "world/cSet.h"
+#include "world/cShot.h"
 
 namespace fh {
 
@@ -21,6 +23,18 @@ void LoadSet(const QString& fileName) {
   // nCurrentShot of the file.
 }
 
+// Every saved shot has its row in table Shots; a new row gets only its Name, so its friendly name
+// stays the table's default until an author writes one.
+void KeepShotsRowInLine(const cShot& shot) {
+  if (!GameDB) throw RuntimeFailure(Failure::ObjectNotSet, QStringLiteral("GameDB"));
+  Recordset row = GameDB->OpenRecordset(QStringLiteral("SELECT * FROM Shots WHERE Name = ?"), {shot.sName});
+  if (row.IsEOF()) row.AddNew();
+  else row.Edit();
+  row.SetField(QStringLiteral("Name"), shot.sName);
+  row.Update();
+  row.Close();
+}
+
 void SaveSet() {
   if (!CurrentSet) throw RuntimeFailure(Failure::ObjectNotSet, QStringLiteral("CurrentSet"));
   // "Untiltled" is the name the game has always used; existing worlds may rely on it.
@@ -28,7 +42,7 @@ void SaveSet() {
   const QString path = DatabasePath + fileName;
   deleteFile(path);  // there may be no old file
   ByteFile file = ByteFile::openForWriting(path);
-  CurrentSet->Save(file);
+  CurrentSet->Save(file, SetWriting{.afterShot = KeepShotsRowInLine});
   file.close();
 }
 

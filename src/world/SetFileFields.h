@@ -5,6 +5,8 @@
 
 #include <QString>
 
+#include <functional>
+
 #include <memory>
 #include <vector>
 
@@ -16,6 +18,14 @@ class ByteFile;
 // was keeps the leading blanks that the writer kept: the writer pads only on the right.
 struct SetReading {
   bool keepLeadingBlanks = false;
+};
+
+class cShot;
+
+// How a set file is written. The game, saving its world, also brings the database into line with each
+// shot once its record is written; tools and tests write the file alone.
+struct SetWriting {
+  std::function<void(const cShot&)> afterShot;
 };
 
 // The fields that the Set, Shot and HotSpot records share.
@@ -53,11 +63,12 @@ void loadRecords(ByteFile& file, i16 count, std::vector<std::shared_ptr<Record>>
 
 // Writes the first `count` child records; a missing one fails as the game's empty slot did.
 template <class Record>
-void saveRecords(ByteFile& file, i16 count, const std::vector<std::shared_ptr<Record>>& records, const QString& owner) {
+void saveRecords(ByteFile& file, i16 count, const std::vector<std::shared_ptr<Record>>& records, const SetWriting& writing,
+                 const QString& owner) {
   for (i16 i = 0; i < count; ++i) {
     if (i >= static_cast<qsizetype>(records.size()) || !records[i])
       throw RuntimeFailure(Failure::ObjectNotSet, QStringLiteral("record %1 of %2").arg(i).arg(owner));
-    records[i]->Save(file);
+    records[i]->Save(file, writing);
   }
 }
 

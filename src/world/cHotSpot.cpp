@@ -4,7 +4,7 @@
 
 namespace fh {
 
-void cHotSpot::Save(ByteFile& file) const {
+void cHotSpot::Save(ByteFile& file, const SetWriting&) const {
   setfile::putTag(file, sHeader);
   // Height comes before width in the record.
   for (const i16 value : {Left, Top, Height, Width, Icon}) file.putInteger(value);

@@ -30,7 +30,7 @@ class cHotSpot {
   QStringList ScriptLines;  // NumScriptLines lines, first line first
 
   // Appends the record at the file's position.
-  void Save(ByteFile& file) const;
+  void Save(ByteFile& file, const SetWriting& writing = {}) const;
   // Reads the record from the file's position.
   void Load(ByteFile& file, const SetReading& reading = {});
 };

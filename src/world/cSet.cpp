@@ -8,12 +8,12 @@ namespace fh {
 cSet::cSet() = default;
 cSet::~cSet() = default;
 
-void cSet::Save(ByteFile& file) const {
+void cSet::Save(ByteFile& file, const SetWriting& writing) const {
   setfile::putTag(file, sHeader);
   file.putText(sName, setfile::kTextLength);
   file.putInteger(nNumShots);
   file.putInteger(nCurrentShot);
-  setfile::saveRecords(file, nNumShots, Shots, QStringLiteral("the set"));
+  setfile::saveRecords(file, nNumShots, Shots, writing, QStringLiteral("the set"));
 }
 
 void cSet::Load(ByteFile& file, const SetReading& reading) {

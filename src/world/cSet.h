@@ -29,7 +29,7 @@ class cSet {
   std::vector<std::shared_ptr<cShot>> Shots;  // nNumShots shots, index 0 first
 
   // Appends the record and its shots at the file's position.
-  void Save(ByteFile& file) const;
+  void Save(ByteFile& file, const SetWriting& writing = {}) const;
   // Reads the record and its shots from the file's position; then the assets would be loaded from
   // the database.
   void Load(ByteFile& file, const SetReading& reading = {});

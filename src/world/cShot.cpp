@@ -8,16 +8,15 @@ namespace fh {
 cShot::cShot() = default;
 cShot::~cShot() = default;
 
-void cShot::Save(ByteFile& file) const {
+void cShot::Save(ByteFile& file, const SetWriting& writing) const {
   setfile::putTag(file, sHeader);
   file.putText(sName, setfile::kTextLength);
   file.putText(ShotToLeft, setfile::kTextLength);
   file.putText(ShotToRight, setfile::kTextLength);
   file.putBoolean(GoElapsedTime);
   file.putInteger(NumHotSpots);
-  setfile::saveRecords(file, NumHotSpots, HotSpots, QStringLiteral("shot '%1'").arg(sName));
-  // Not yet: every saved shot gets its row in the database table Shots ("SELECT * FROM Shots WHERE
-  // Name='" + sName + "'", edited or added, with only Name filled in). That needs the game database.
+  setfile::saveRecords(file, NumHotSpots, HotSpots, writing, QStringLiteral("shot '%1'").arg(sName));
+  if (writing.afterShot) writing.afterShot(*this);
 }
 
 void cShot::Load(ByteFile& file, const SetReading& reading) {

@@ -31,7 +31,7 @@ class cShot {
   std::vector<std::shared_ptr<cHotSpot>> HotSpots;  // NumHotSpots hotspots, index 0 first
 
   // Appends the record and its hotspots at the file's position.
-  void Save(ByteFile& file) const;
+  void Save(ByteFile& file, const SetWriting& writing = {}) const;
   // Reads the record and its hotspots from the file's position.
   void Load(ByteFile& file, const SetReading& reading = {});
 };

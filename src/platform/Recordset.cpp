@@ -62,6 +62,8 @@ int Recordset::RecordCount() const {
   return static_cast<int>(std::count(d->deleted.begin(), d->deleted.end(), false));
 }
 
+QStringList Recordset::ColumnNames() const { return d->columns; }
+
 int Recordset::AbsolutePosition() const {
   if (IsBOF() || IsEOF() || d->deleted[d->position]) return -1;
   int place = 0;

@@ -39,6 +39,7 @@ class Recordset {
   void MoveNext();
   void MovePrevious();
   int RecordCount() const;
+  QStringList ColumnNames() const;
   // The current row's place counting from 0; -1 before the first and after the last.
   int AbsolutePosition() const;
 

@@ -1,0 +1,186 @@
+#include "platform/Database.h"
+#include "platform/Failure.h"
+#include "platform/SqlScript.h"
+#include "startup/Globals.h"
+#include "world/SetFile.h"
+#include "world/cSet.h"
+#include "world/cShot.h"
+
+#include "TempFolder.h"
+
+#include <gtest/gtest.h>
+
+using namespace fh;
+using fh::test::TempFolder;
+
+namespace {
+
+// The game's schema and saved queries with a small test world of four players:
+// Ada (1) as she started, Wendy (2) with a wise home, pat (3) half way, Max (4) worse than the start.
+class GameDatabase : public testing::Test {
+ protected:
+  void SetUp() override {
+    const QString world = QStringLiteral(FH_SOURCE_DIR "/world/database/");
+    createDatabaseFile(folder.at(QStringLiteral("Fernhollow.mdb")),
+                       {world + QStringLiteral("schema.sql"), world + QStringLiteral("queries.sql"),
+                        QStringLiteral(FH_SOURCE_DIR "/tests/startup/GameDatabaseFixture.sql")});
+    db = Database::OpenDatabase(folder.at(QStringLiteral("Fernhollow.mdb")));
+  }
+
+  Recordset open(const QString& query, const std::vector<std::pair<QString, QVariant>>& parameters = {}) {
+    QueryDef saved = db->QueryDefs(query);
+    for (const auto& [name, value] : parameters) saved.SetParameter(name, value);
+    return saved.OpenRecordset();
+  }
+  void execute(const QString& query, const QString& parameter, int userId) {
+    QueryDef action = db->QueryDefs(query);
+    action.SetParameter(parameter, userId);
+    action.Execute();
+  }
+  double number(const QString& query, const QString& column, int userId = -1) {
+    Recordset rs = userId < 0 ? open(query) : open(query, {{QStringLiteral("SelectUserID"), userId}});
+    return rs.Field(column).toDouble();
+  }
+  std::pair<double, double> scores(int userId) {
+    return {number(QStringLiteral("SelectionScore"), QStringLiteral("SumOfADR"), userId),
+            number(QStringLiteral("StateScore"), QStringLiteral("CountOfCurrentState"), userId)};
+  }
+  int rowsOf(const QString& table, const QString& userColumn, int userId) {
+    return db->OpenRecordset(QStringLiteral("SELECT * FROM %1 WHERE \"%2\" = ?").arg(table, userColumn), {userId}).RecordCount();
+  }
+  QStringList column(Recordset rs, const QString& name) {
+    QStringList values;
+    for (; !rs.IsEOF(); rs.MoveNext()) values << (rs.Field(name).isNull() ? QStringLiteral("NULL") : rs.Field(name).toText());
+    return values;
+  }
+
+  TempFolder folder;
+  std::shared_ptr<Database> db;
+};
+
+}  // namespace
+
+TEST_F(GameDatabase, ScoreHalvesRunFromTheBaselinesToZero) {
+  EXPECT_EQ(number(QStringLiteral("ContainerDefaulStateADR"), QStringLiteral("CountOfName")), 3);
+  EXPECT_EQ(number(QStringLiteral("ContainerDefaultObjectlADR"), QStringLiteral("SumOfADR")), 117);
+  EXPECT_EQ(scores(1), std::make_pair(117.0, 3.0));  // the starting home
+  EXPECT_EQ(scores(2), std::make_pair(0.0, 0.0));    // every container wise
+  EXPECT_EQ(scores(3), std::make_pair(27.0, 2.0));   // a better bulb, the tap off
+  EXPECT_EQ(scores(4), std::make_pair(200.0, 3.0));  // a worse shower head than at the start
+}
+
+TEST_F(GameDatabase, NewUserStartsAtTheBaselinesAndMakingRowsTwiceAddsNothing) {
+  Recordset users = db->OpenRecordset(QStringLiteral("Users"));
+  users.AddNew();
+  const int id = users.Field(QStringLiteral("ID")).toLong();
+  users.SetField(QStringLiteral("User Name"), QStringLiteral("Zoë"));
+  users.SetField(QStringLiteral("Password"), QStringLiteral("x"));
+  users.SetField(QStringLiteral("Current Shot"), 0);
+  users.Update();
+  execute(QStringLiteral("Make New User"), QStringLiteral("User ID"), id);
+  EXPECT_EQ(rowsOf(QStringLiteral("UserContainers"), QStringLiteral("User ID"), id), 5);
+  execute(QStringLiteral("Make New User"), QStringLiteral("User ID"), id);
+  EXPECT_EQ(rowsOf(QStringLiteral("UserContainers"), QStringLiteral("User ID"), id), 5);
+  EXPECT_EQ(scores(id), std::make_pair(117.0, 3.0));
+
+  Recordset zoe = db->OpenRecordset(QStringLiteral("SELECT * FROM Users WHERE ID = ?"), {id});
+  EXPECT_EQ(zoe.Field(QStringLiteral("ElapsedTime")).toSingle(), 0.0f);
+  EXPECT_FALSE(zoe.Field(QStringLiteral("HasWonGame")).toBool());
+
+  // A player kept from before a container was added gets just that container's row.
+  execute(QStringLiteral("Make New User"), QStringLiteral("User ID"), 1);
+  EXPECT_EQ(rowsOf(QStringLiteral("UserContainers"), QStringLiteral("User ID"), 1), 5);
+}
+
+TEST_F(GameDatabase, RemovalLeavesNothingOfThePlayerForALaterOneWithTheSameId) {
+  execute(QStringLiteral("Remove User Step 1"), QStringLiteral("SelectUserID"), 2);
+  execute(QStringLiteral("Remove User Step 2"), QStringLiteral("SelectUserID"), 2);
+  db->OpenRecordset(QStringLiteral("SELECT * FROM Users WHERE \"User Name\" = ?"), {QStringLiteral("wendy")}).Delete();
+  EXPECT_EQ(rowsOf(QStringLiteral("UserContainers"), QStringLiteral("User ID"), 2), 0);
+  EXPECT_EQ(rowsOf(QStringLiteral("HomeCheckupAnswers"), QStringLiteral("User ID"), 2), 0);
+  EXPECT_EQ(rowsOf(QStringLiteral("UserContainers"), QStringLiteral("User ID"), 3), 5);  // others keep theirs
+
+  // The database may hand out the same ID again: the new player must start from the beginning.
+  QueryDef make = db->QueryDefs(QStringLiteral("Make New User"));
+  make.SetParameter(QStringLiteral("User ID"), 2);
+  make.Execute();
+  EXPECT_EQ(scores(2), std::make_pair(117.0, 3.0));
+}
+
+TEST_F(GameDatabase, GetContainerEditsThisUsersRowOnly) {
+  Recordset lamp = open(QStringLiteral("GetContainer"), {{QStringLiteral("SelectContainer"), QStringLiteral("gran'slamp")},
+                                                          {QStringLiteral("SelectUserID"), 3}});
+  ASSERT_EQ(lamp.RecordCount(), 1);
+  EXPECT_EQ(lamp.Field(QStringLiteral("Friendly Name")).toText(), QStringLiteral("Gran's Lamp"));
+  lamp.Edit();
+  lamp.SetField(QStringLiteral("CurrentState"), 0);
+  lamp.SetField(QStringLiteral("CurrentObject"), QStringLiteral("LED Bulb"));
+  lamp.Update();
+  EXPECT_EQ(scores(3), std::make_pair(17.0, 1.0));
+  EXPECT_EQ(scores(1), std::make_pair(117.0, 3.0));
+  EXPECT_EQ(open(QStringLiteral("GetContainer"), {{QStringLiteral("SelectContainer"), QStringLiteral("Nothing")},
+                                                  {QStringLiteral("SelectUserID"), 3}}).RecordCount(), 0);
+}
+
+TEST_F(GameDatabase, ListsComeInTheirAuthoredOrder) {
+  EXPECT_EQ(column(db->OpenRecordset(QStringLiteral("SELECT * FROM GetObjects WHERE \"Containers.Name\" = ?"), {QStringLiteral("showerhead")}),
+                   QStringLiteral("Objects.Name")),
+            QStringList({QStringLiteral("Standard Shower Head"), QStringLiteral("Old Shower Head"),
+                         QStringLiteral("WaterSense Shower Head"), QStringLiteral("Bucket")}));
+  EXPECT_EQ(column(open(QStringLiteral("GetSpriteCelSources"), {{QStringLiteral("Sprite"), QStringLiteral("tapwater")}}),
+                   QStringLiteral("Sound")),
+            QStringList({QStringLiteral("Water"), QStringLiteral("NULL")}));
+  EXPECT_EQ(column(open(QStringLiteral("GetHomeCheckupQuestions")), QStringLiteral("ID")),
+            QStringList({QStringLiteral("3"), QStringLiteral("1"), QStringLiteral("2"), QStringLiteral("7")}));
+  EXPECT_EQ(column(open(QStringLiteral("GetHowAmIDoing"), {{QStringLiteral("SelectUserID"), 3}}), QStringLiteral("Friendly Name")),
+            QStringList({QStringLiteral("Radio"), QStringLiteral("Kitchen Tap"), QStringLiteral("Gran's Lamp"),
+                         QStringLiteral("Shower Head")}));
+  EXPECT_EQ(column(open(QStringLiteral("GetAllSprites")), QStringLiteral("Name")),
+            QStringList({QStringLiteral("LampGlow"), QStringLiteral("TapWater")}));
+}
+
+TEST_F(GameDatabase, BackdropFollowsThePlayersContainers) {
+  auto backdrop = [&](const QString& shot, int user) {
+    return column(open(QStringLiteral("SelectBackdrop"), {{QStringLiteral("TargetShot"), shot}, {QStringLiteral("SelectUserID"), user}}),
+                  QStringLiteral("ImageSource"))
+        .value(0, QStringLiteral("none"));
+  };
+  EXPECT_EQ(backdrop(QStringLiteral("kitchen"), 1), QStringLiteral("KitchenTapRunning.bmp"));
+  EXPECT_EQ(backdrop(QStringLiteral("Kitchen"), 2), QStringLiteral("Kitchen.bmp"));
+  EXPECT_EQ(backdrop(QStringLiteral("Lounge"), 2), QStringLiteral("LoungeDark.bmp"));
+  EXPECT_EQ(backdrop(QStringLiteral("Attic"), 1), QStringLiteral("none"));
+}
+
+TEST_F(GameDatabase, LiteralStatementsTakeNamesWithApostrophes) {
+  EXPECT_EQ(db->OpenRecordset(QStringLiteral("SELECT * FROM Dialogs WHERE Name = ?"), {QStringLiteral("gran'swelcome")}).RecordCount(), 1);
+  EXPECT_EQ(db->OpenRecordset(QStringLiteral("SELECT * FROM Shots WHERE Name = ?"), {QStringLiteral("LOUNGE")})
+                .Field(QStringLiteral("Freindly Name")).toText(),
+            QStringLiteral("Gran's Lounge"));
+  EXPECT_EQ(db->OpenRecordset(QStringLiteral("SELECT * FROM InfoBoxes WHERE Name = ?"), {QStringLiteral("showerfacts")}).RecordCount(), 1);
+  EXPECT_EQ(db->OpenRecordset(QStringLiteral("SELECT * FROM StartUp")).Field(QStringLiteral("Script")).toText(),
+            QStringLiteral("loadsound Water.wav water\r\nstartset fixture.set"));
+}
+
+TEST_F(GameDatabase, SavingTheWorldGivesNewShotsARowWithAnEmptyFriendlyName) {
+  DatabasePath = folder.path() + u'\\';
+  GameDB = db;
+  auto kitchen = std::make_shared<cShot>();
+  kitchen->sName = QStringLiteral("Kitchen");
+  auto attic = std::make_shared<cShot>();
+  attic->sName = QStringLiteral("Gran's Attic");
+  CurrentSet = std::make_shared<cSet>();
+  CurrentSet->sName = QStringLiteral("House");
+  CurrentSet->Shots = {kitchen, attic};
+  CurrentSet->nNumShots = 2;
+  SaveSet();
+  GameDB.reset();
+  CurrentSet.reset();
+
+  EXPECT_EQ(db->OpenRecordset(QStringLiteral("SELECT * FROM Shots WHERE Name = ?"), {QStringLiteral("Kitchen")})
+                .Field(QStringLiteral("Freindly Name")).toText(),
+            QStringLiteral("The Kitchen"));
+  Recordset added = db->OpenRecordset(QStringLiteral("SELECT * FROM Shots WHERE Name = ?"), {QStringLiteral("Gran's Attic")});
+  ASSERT_EQ(added.RecordCount(), 1);
+  EXPECT_EQ(added.Field(QStringLiteral("Freindly Name")).toText(), QString());
+  EXPECT_EQ(db->OpenRecordset(QStringLiteral("Shots")).RecordCount(), 4);
+}

@@ -59,7 +59,7 @@ void DatabaseConnection::requireOpen() const {
   if (!m_open) throw RuntimeFailure(Failure::ObjectClosed, QStringLiteral("the database is closed"));
 }
 
-QSqlQuery DatabaseConnection::run(const QString& statement, const QVariantList& values) {
+QSqlQuery DatabaseConnection::run(const QString& statement, const QVariantList& values) const {
   requireOpen();
   QSqlQuery query(QSqlDatabase::database(m_connectionName, false));
   query.setForwardOnly(true);
@@ -69,13 +69,13 @@ QSqlQuery DatabaseConnection::run(const QString& statement, const QVariantList& 
   return query;
 }
 
-void DatabaseConnection::execute(const QString& statement) {
+void DatabaseConnection::execute(const QString& statement) const {
   requireOpen();
   QSqlQuery query(QSqlDatabase::database(m_connectionName, false));
   if (!query.exec(statement)) failWith(query, statement);
 }
 
-QSqlQuery DatabaseConnection::runNamed(const QString& statement, const std::map<QString, QVariant>& placeholders) {
+QSqlQuery DatabaseConnection::runNamed(const QString& statement, const std::map<QString, QVariant>& placeholders) const {
   requireOpen();
   QSqlQuery query(QSqlDatabase::database(m_connectionName, false));
   query.setForwardOnly(true);
@@ -94,13 +94,12 @@ std::optional<QString> DatabaseConnection::findTable(const QString& name) const 
 }
 
 std::optional<SavedQuery> DatabaseConnection::findSavedQuery(const QString& name) const {
-  auto* self = const_cast<DatabaseConnection*>(this);
-  QSqlQuery found = self->run(QStringLiteral("SELECT Name, Statement, UpdateTable, UpdateKey FROM SavedQueries"));
+  QSqlQuery found = run(QStringLiteral("SELECT Name, Statement, UpdateTable, UpdateKey FROM SavedQueries"));
   while (found.next()) {
     if (found.value(0).toString().compare(name, Qt::CaseInsensitive) != 0) continue;
     SavedQuery query{found.value(0).toString(), found.value(1).toString(), {}, found.value(2).toString(),
                      found.value(3).toString()};
-    QSqlQuery parameters = self->run(QStringLiteral("SELECT Query, Name FROM SavedQueryParameters"));
+    QSqlQuery parameters = run(QStringLiteral("SELECT Query, Name FROM SavedQueryParameters"));
     while (parameters.next())
       if (parameters.value(0).toString().compare(query.name, Qt::CaseInsensitive) == 0)
         query.parameters << parameters.value(1).toString();

@@ -36,10 +36,10 @@ class DatabaseConnection {
 
   // Prepares, binds (positional values, or named ones for saved queries) and runs a statement;
   // a statement the database refuses is "Database operation failed" with the database's words.
-  QSqlQuery run(const QString& statement, const QVariantList& values = {});
+  QSqlQuery run(const QString& statement, const QVariantList& values = {}) const;
   // Runs a statement as it stands, with nothing to bind: for scripts that make the database.
-  void execute(const QString& statement);
-  QSqlQuery runNamed(const QString& statement, const std::map<QString, QVariant>& placeholders);
+  void execute(const QString& statement) const;
+  QSqlQuery runNamed(const QString& statement, const std::map<QString, QVariant>& placeholders) const;
 
   // Names are matched without regard to case; the results give them as the database spells them.
   std::optional<QString> findTable(const QString& name) const;

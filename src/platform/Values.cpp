@@ -28,13 +28,6 @@ namespace {
 bool isValBlank(QChar c) { return c == u' ' || c == u'\t' || c == u'\n'; }
 bool isNothing(QChar) { return false; }
 
-// The value of a hexadecimal digit, or -1.
-int hexDigit(QChar c) {
-  if (c.isDigit()) return c.digitValue();
-  const char16_t u = c.toUpper().unicode();
-  return u >= u'A' && u <= u'F' ? u - u'A' + 10 : -1;
-}
-
 // Reads "&H1F" or "&O17" from position i; returns false when the text has no such number there.
 bool readRadixNumber(const QString& s, qsizetype& i, double& result) {
   if (i + 1 >= s.size() || s[i] != u'&') return false;
@@ -84,6 +77,12 @@ bool readDecimalNumber(const QString& s, qsizetype& i, double& result, bool (*sk
 }
 
 }  // namespace
+
+int hexDigit(QChar c) {
+  if (c >= u'0' && c <= u'9') return c.unicode() - u'0';
+  const char16_t u = c.toUpper().unicode();
+  return u >= u'A' && u <= u'F' ? u - u'A' + 10 : -1;
+}
 
 double Val(const QString& text) {
   qsizetype i = 0;

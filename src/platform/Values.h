@@ -30,6 +30,9 @@ i16 CInt(const QString& text);
 // introduce hexadecimal and octal. Text without a number gives 0.
 double Val(const QString& text);
 
+// The value of a hexadecimal digit in either case, or -1.
+int hexDigit(QChar c);
+
 // The pattern "#,###": nearest whole number, thousands separated by commas, nothing at all for 0.
 QString formatThousands(double value);
 // The pattern "h:nn:ss" of a time counted in days: the time of day, hours without a leading zero.

@@ -1,6 +1,7 @@
 #include "TextValues.h"
 
 #include "platform/Ansi.h"
+#include "platform/Values.h"
 
 #include <algorithm>
 
@@ -14,13 +15,6 @@ bool needsEscape(QChar c) {
 }
 
 bool hasAnsiByte(QChar c) { return fromAnsi(toAnsi(QString(c))) == QString(c); }
-
-int hexDigit(QChar c) {
-  if (c >= u'0' && c <= u'9') return c.unicode() - u'0';
-  if (c >= u'a' && c <= u'f') return c.unicode() - u'a' + 10;
-  if (c >= u'A' && c <= u'F') return c.unicode() - u'A' + 10;
-  return -1;
-}
 
 // The character's byte in the set file, as two hex digits.
 QString hexByte(QChar c) {

@@ -134,4 +134,9 @@ QString Mid(const QString& text, int start, int length) {
   return length < 0 ? text.mid(start - 1) : text.mid(start - 1, length);
 }
 
+QString Space(int count) {
+  if (count < 0) throw RuntimeFailure(Failure::InvalidCall, QStringLiteral("Space %1").arg(count));
+  return QString(count, QLatin1Char(' '));
+}
+
 }  // namespace fh

@@ -42,5 +42,7 @@ QString formatClock(double days);
 int InStr(int start, const QString& text, const QString& what);
 // Up to `length` characters from the 1-based `start`; all the rest when length is negative.
 QString Mid(const QString& text, int start, int length = -1);
+// `count` blanks; a negative count is an Invalid procedure call.
+QString Space(int count);
 
 }  // namespace fh

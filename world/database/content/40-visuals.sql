@@ -1,0 +1,78 @@
+-- What the rooms look like: backdrops, sprites and the looks of the sprites.
+--
+-- Runs after 30-containers.sql: the conditions name its containers and objects.
+-- Every picture named here is listed, with its size and what it shows, in world/resources.md.
+
+
+-- Backdrops ---------------------------------------------------------------------------------
+-- Every shot has an unconditional backdrop. A variant shows a fixture as the player has left
+-- it; rows with a condition are tried before the unconditional row.
+
+INSERT INTO VisualRegistry (ID, Shot, ImageSource, Priority, Container, State, Object) VALUES
+    (1, 'FrontPorch', 'FrontPorch.bmp', 0, NULL, NULL, NULL),
+    (2, 'FrontPorch', 'FrontPorchLightOn.bmp', 0, 'PorchLight', 1, NULL),
+    (3, 'Hall', 'Hall.bmp', 0, NULL, NULL, NULL),
+    (4, 'LivingRoom', 'LivingRoom.bmp', 0, NULL, NULL, NULL),
+    (5, 'LivingRoom', 'LivingRoomLampOn.bmp', 0, 'LivingLamp', 1, NULL),
+    (6, 'Kitchen', 'Kitchen.bmp', 0, NULL, NULL, NULL),
+    (7, 'Kitchen', 'KitchenFridgeOpen.bmp', 0, 'FridgeDoor', 1, NULL),
+    (8, 'KitchenSink', 'KitchenSink.bmp', 0, NULL, NULL, NULL),
+    (9, 'Laundry', 'Laundry.bmp', 0, NULL, NULL, NULL),
+    (10, 'Basement', 'Basement.bmp', 0, NULL, NULL, NULL),
+    (11, 'Basement', 'BasementBlanket.bmp', 0, 'WaterHeaterSetting', NULL, '120 degrees and an insulating blanket'),
+    (12, 'WaterHeater', 'WaterHeater.bmp', 0, NULL, NULL, NULL),
+    (13, 'WaterHeater', 'WaterHeaterBlanket.bmp', 0, 'WaterHeaterSetting', NULL, '120 degrees and an insulating blanket'),
+    (14, 'Garage', 'Garage.bmp', 0, NULL, NULL, NULL),
+    (15, 'Garden', 'Garden.bmp', 0, NULL, NULL, NULL),
+    (16, 'Bedroom', 'Bedroom.bmp', 0, NULL, NULL, NULL),
+    (17, 'Bathroom', 'Bathroom.bmp', 0, NULL, NULL, NULL),
+    (18, 'Shower', 'Shower.bmp', 0, NULL, NULL, NULL),
+    (19, 'Computer', 'Computer.bmp', 0, NULL, NULL, NULL);
+
+
+-- Sprites -----------------------------------------------------------------------------------
+-- Every strip of a sprite has NumFrames cels of the same size side by side. A looping sprite
+-- starts as its shot is drawn; ShowerSpray runs once when a script starts it and then rests on
+-- its last cel, which shows the shower head with the water off. The fan's blades turn by
+-- playing their strip backwards. Where sprites of a shot meet, the higher DrawOrder paints
+-- last.
+
+INSERT INTO Sprites (Name, Shot, X, Y, NumFrames, FrameDelay, Loop, Backwards, DrawOrder) VALUES
+    ('CurtainBlow', 'LivingRoom', 462, 46, 6, 150, -1, 0, 1),
+    ('TVPicture', 'LivingRoom', 297, 98, 4, 400, -1, 0, 2),
+    ('KitchenDrip', 'KitchenSink', 300, 148, 6, 170, -1, 0, 1),
+    ('DryerDrum', 'Laundry', 345, 210, 4, 120, -1, 0, 1),
+    ('CarExhaust', 'Garage', 100, 262, 5, 150, -1, 0, 1),
+    ('SprinklerSpray', 'Garden', 250, 190, 4, 160, -1, 0, 1),
+    ('HoseWater', 'Garden', 440, 280, 4, 120, -1, 0, 2),
+    ('FanBlades', 'Bedroom', 246, 8, 6, 70, -1, -1, 1),
+    ('ComputerScreen', 'Bedroom', 490, 140, 4, 600, -1, 0, 2),
+    ('ToiletRipple', 'Bathroom', 95, 236, 4, 250, -1, 0, 1),
+    ('ShowerDripping', 'Shower', 270, 130, 6, 180, -1, 0, 1),
+    ('ShowerSpray', 'Shower', 298, 130, 12, 350, 0, 0, 2);
+
+
+-- Looks of the sprites ----------------------------------------------------------------------
+-- The first row (by Position) whose condition holds gives the strip and its looping sound; a
+-- sprite with none that holds is hidden. A condition of several lines holds when all do.
+
+INSERT INTO SpriteCelSources (ID, Sprite, Position, Condition, CelSource, Sound) VALUES
+    (1, 'CurtainBlow', 1, 'livingwindow state 1', 'CurtainBlowing.bmp', 'Wind'),
+    (2, 'CurtainBlow', 2, 'livingwindow state 0', 'CurtainStill.bmp', NULL),
+    (3, 'TVPicture', 1, 'tv state 1', 'TVPicture.bmp', 'TVSound'),
+    (4, 'TVPicture', 2, 'tv state 0', 'TVBlank.bmp', NULL),
+    (5, 'KitchenDrip', 1, 'kitchentap state 1', 'KitchenDrip.bmp', 'Drip'),
+    (6, 'DryerDrum', 1, 'dryer !holds clotheslineonsunnydays', 'DryerTumble.bmp', 'Tumble'),
+    (7, 'DryerDrum', 2, 'dryer holds clotheslineonsunnydays', 'DryerStill.bmp', NULL),
+    (8, 'CarExhaust', 1, 'caridling state 1', 'Exhaust.bmp', 'Engine'),
+    (9, 'SprinklerSpray', 1, 'sprinkler state 1', 'SprinklerSpray.bmp', 'Sprinkler'),
+    (10, 'HoseWater', 1, 'gardenhose state 1' || char(13) || char(10) || 'hosenozzle holds openhoseend',
+         'HoseGush.bmp', 'Hose'),
+    (11, 'HoseWater', 2, 'gardenhose state 1', 'HoseSpray.bmp', 'Hose'),
+    (12, 'FanBlades', 1, 'ceilingfan state 1', 'FanSpin.bmp', 'Fan'),
+    (13, 'FanBlades', 2, 'ceilingfan state 0', 'FanStill.bmp', NULL),
+    (14, 'ComputerScreen', 1, 'bedroomcomputer state 1', 'ScreenSaver.bmp', NULL),
+    (15, 'ToiletRipple', 1, 'toiletleak state 1', 'ToiletRipple.bmp', 'Trickle'),
+    (16, 'ShowerDripping', 1, 'showerdrip state 1', 'ShowerDrip.bmp', 'Drip'),
+    (17, 'ShowerSpray', 1, 'showerhead holds watersenseshowerhead1.5gallons', 'ShowerFine.bmp', 'Shower'),
+    (18, 'ShowerSpray', 2, 'showerhead !holds watersenseshowerhead1.5gallons', 'ShowerGush.bmp', 'Shower');

@@ -4,7 +4,10 @@
 #include "WorldCheck.h"
 
 #include "platform/ByteFile.h"
+#include "script/ScriptWords.h"
+#include "world/cHotSpot.h"
 #include "world/cSet.h"
+#include "world/cShot.h"
 
 #include "TempFolder.h"
 
@@ -221,6 +224,44 @@ TEST(BundledWorld, LacksNothingButTheListedArt) {
   EXPECT_GE(result.summary.shots, 13);
   EXPECT_GE(result.summary.containers, 22);
   EXPECT_GE(result.summary.sprites, 8);
+}
+
+// The house is also the engine's largest fixture: its scripts use every command with its options.
+TEST(BundledWorld, UsesEveryCommandWithItsOptions) {
+  cSet house;
+  ByteFile file = ByteFile::openForReading(QStringLiteral(FH_STAGE_DIR "/Database/Fernhollow.set"));
+  house.Load(file);
+  QSet<QString> used;
+  auto note = [&](const QString& line) {
+    const ScriptWords words(line);
+    const QString& command = words.word(0);
+    used << command;
+    if (command == QLatin1String("if")) used << command + QLatin1Char(' ') + words.word(2);
+    if (command == QLatin1String("computer") || command == QLatin1String("goto") || command == QLatin1String("showvideo")) {
+      used << command + QLatin1Char(' ') + words.word(1);
+    }
+    if (command == QLatin1String("setcontainer")) used << command + (words.word(3).isEmpty() ? QString() : QStringLiteral(" refresh"));
+    if (command == QLatin1String("togglecontainer") || command == QLatin1String("playlocal") || command == QLatin1String("sethotspot")) {
+      used << command + (words.word(2).isEmpty() ? QString() : QLatin1Char(' ') + words.word(2));
+    }
+    if (command == QLatin1String("showdialogstring")) {
+      used << command + (words.word(1) == QLatin1String("last") ? QStringLiteral(" last") : QString());
+    }
+  };
+  for (const auto& shot : house.Shots) {
+    for (const auto& hotSpot : shot->HotSpots) {
+      note(hotSpot->Rollover);
+      for (const QString& line : hotSpot->ScriptLines) note(line);
+    }
+  }
+  for (const char* wanted :
+       {"if state", "if holds", "if !holds", "endif", "animatesprite", "stopsprite", "setcontainer", "setcontainer refresh",
+        "togglecontainer", "togglecontainer anim", "showdialog", "showdialogstring", "showdialogstring last", "showinfobox",
+        "showcontainer", "showvideo next", "showvideo previous", "stopvideo", "goto shot", "goto set", "playlocal",
+        "playlocal looped", "stoplocal", "sethotspot", "sethotspot active", "object", "computer shutdown", "computer print",
+        "computer howamidoing", "computer communitychalkboard", "computer cleanair", "computer homecheckup"}) {
+    EXPECT_TRUE(used.contains(QLatin1String(wanted))) << wanted;
+  }
 }
 
 }  // namespace

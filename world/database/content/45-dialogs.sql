@@ -70,7 +70,7 @@ INSERT INTO Dialogs (Name, Text) VALUES
     ('RainGaugeHint', 'A rain gauge shows how much rain has fallen. Click for watering facts.'),
     ('NozzleHint', 'The end of the garden hose. Click to choose what goes on it.'),
     ('NoNozzle', 'This hose has no nozzle, so water gushes out all the time. Pick a nozzle that shuts off when you let go!'),
-    ('BirdTableHint', 'The bird table. Click to listen to the birds sing!'),
+    ('BirdTableHint', 'The bird table. Click to listen to the birds and read about them.'),
 
     -- Your Bedroom
     ('FanFactsHint', 'The ceiling fan. Click to learn what a fan really cools.'),

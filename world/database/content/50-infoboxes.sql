@@ -90,6 +90,11 @@ INSERT INTO InfoBoxes (Name, Title, Text) VALUES
      'A sprinkler timer shouldn''t water in the rain: a rain sensor can stop it.' || char(13) || char(10) ||
      'A hose nozzle that shuts off when you let go stops the water while you move between plants. And always turn the hose off when you are done.'),
 
+    ('BirdTable', 'The Bird Table',
+     'Listen! The birds come for seeds and a drink.' || char(13) || char(10) ||
+     'Birds need clean water too. Fill the bird bath from a watering can or a rain barrel instead of running the hose.' || char(13) || char(10) ||
+     'A garden full of plants that grow well where you live needs less watering, and it feeds the birds as well.'),
+
     ('CarFacts', 'Car Facts',
      'An average car puts about 4.6 metric tons of carbon dioxide into the air each year. That is about 10,000 pounds!' || char(13) || char(10) ||
      'An idling car goes 0 miles on every gallon it burns. Turn the engine off while waiting, and never let an engine run in a closed garage.' || char(13) || char(10) ||

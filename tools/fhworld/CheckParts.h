@@ -9,6 +9,10 @@
 // list of problems and the list of needed files.
 namespace fh::fhworld {
 
+// The shot picture, in whose pixels hotspots and sprites are placed.
+constexpr int kViewWidth = 632;
+constexpr int kViewHeight = 390;
+
 struct CheckContext {
   WorldIndex& world;
   Problems& problems;

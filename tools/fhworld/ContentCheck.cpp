@@ -20,8 +20,6 @@ constexpr int kLongestDialog = 140;
 constexpr int kLongestInfoTitle = 24;
 constexpr int kLongestInfoText = 450;
 constexpr int kLongestListItem = 24;
-constexpr int kViewWidth = 632;
-constexpr int kViewHeight = 390;
 // The checkup's introduction on the computer says so.
 constexpr int kCheckupQuestions = 35;
 

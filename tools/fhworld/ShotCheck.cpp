@@ -10,8 +10,6 @@ namespace fh::fhworld {
 
 namespace {
 
-constexpr int kViewWidth = 632;
-constexpr int kViewHeight = 390;
 constexpr int kComputerScreensTop = 70;  // the computer's screens cover the Computer shot below this
 constexpr int kLongestShotTitle = 40;
 const QString kComputerShot = QStringLiteral("Computer");

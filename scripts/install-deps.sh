@@ -14,6 +14,8 @@ packages=(
   fonts-liberation2
   # tests
   libgtest-dev googletest
+  # listening to the music in the tests: rendering MIDI and measuring the sound
+  fluidsynth sox
   # running under a virtual display
   xvfb xauth
 )

@@ -1,0 +1,31 @@
+#include "BmpFile.h"
+
+#include "SvgSource.h"
+
+#include <QBuffer>
+#include <QFile>
+#include <QSaveFile>
+
+namespace fh::fhart {
+
+QByteArray bmpBytes(const QImage& indexed) {
+  // Qt's BMP writer keeps an Indexed8 picture at 8 bits with its colour table as long as the table
+  // has more than 16 entries; the shared palette always has 256.
+  Q_ASSERT(indexed.format() == QImage::Format_Indexed8 && indexed.colorCount() > 16);
+  QBuffer buffer;
+  buffer.open(QIODevice::WriteOnly);
+  if (!indexed.save(&buffer, "BMP")) throw ArtProblem{QStringLiteral("Qt could not encode a BMP file")};
+  return buffer.data();
+}
+
+bool writeIfChanged(const QString& file, const QByteArray& bytes) {
+  QFile old(file);
+  if (old.open(QIODevice::ReadOnly) && old.size() == bytes.size() && old.readAll() == bytes) return false;
+  old.close();
+  QSaveFile out(file);
+  if (!out.open(QIODevice::WriteOnly) || out.write(bytes) != bytes.size() || !out.commit())
+    throw ArtProblem{QStringLiteral("cannot write %1 (%2)").arg(file, out.errorString())};
+  return true;
+}
+
+}  // namespace fh::fhart

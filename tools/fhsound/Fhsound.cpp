@@ -1,0 +1,85 @@
+#include "Fhsound.h"
+
+#include "Mastering.h"
+#include "SoundSource.h"
+#include "Synthesis.h"
+#include "WaveFile.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+
+namespace fh::fhsound {
+
+namespace {
+
+const char* const kUsage =
+    "Usage:\n"
+    "  fhsound build SOURCES OUT  synthesize every SOURCES/*.sound into OUT/<name>.wav\n"
+    "  fhsound --help             show this help\n"
+    "\n"
+    "Each source is a few lines of tones and noises; world/sounds/README.md describes them.\n"
+    "Wave files are 16-bit PCM mono at 22050 Hz, all brought to one loudness; a file whose\n"
+    "bytes would not change is left alone.\n";
+
+// Thrown for what the person at the command line must mend: a bad command line or a missing folder.
+struct UsageProblem {
+  QString text;
+};
+
+QString decibels(double value) { return QString::number(value, 'f', 1) + QStringLiteral(" dB"); }
+
+// Writes the file only when its bytes differ, so that its time stamp tells when it last changed.
+bool writeIfChanged(const QString& path, const QByteArray& bytes) {
+  QFile old(path);
+  if (old.open(QIODevice::ReadOnly) && old.readAll() == bytes) return false;
+  QSaveFile file(path);
+  if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
+    throw SourceProblem{path, 0, QStringLiteral("cannot be written: %1").arg(file.errorString())};
+  return true;
+}
+
+int build(const QStringList& args, QTextStream& out, QTextStream& err) {
+  if (args.size() != 2) throw UsageProblem{QStringLiteral("build needs a source folder and an output folder")};
+  if (!QFileInfo(args[0]).isDir()) throw UsageProblem{QStringLiteral("there is no folder %1").arg(args[0])};
+  if (!QDir().mkpath(args[1])) throw UsageProblem{QStringLiteral("cannot make the folder %1").arg(args[1])};
+  // Every source is read before anything is written, so that a mistake leaves the old sounds whole.
+  const std::vector<SoundSource> sounds = readSoundFolder(args[0]);
+  if (sounds.empty()) throw UsageProblem{QStringLiteral("there are no .sound files in %1").arg(args[0])};
+  const QDir target(args[1]);
+  for (const SoundSource& sound : sounds) {
+    const MasteredSound mastered = master(renderSound(sound));
+    const QString path = target.filePath(sound.name + QStringLiteral(".wav"));
+    const bool written = writeIfChanged(path, waveFile(mastered.samples, kSampleRate));
+    out << sound.name << ".wav: " << QString::number(sound.length, 'f', 2) << " s" << (sound.loop ? " loop" : "")
+        << ", loudness " << decibels(mastered.loudnessDb) << ", peak " << decibels(mastered.peakDb)
+        << (written ? "" : ", unchanged") << '\n';
+    if (mastered.heldBack)
+      err << "fhsound: " << sound.file << ": too spiky to reach " << decibels(kTargetLoudnessDb)
+          << " without clipping; a softer attack or a longer decay would help\n";
+  }
+  return 0;
+}
+
+}  // namespace
+
+int runFhsound(const QStringList& arguments, QTextStream& out, QTextStream& err) {
+  if (arguments.value(0) == QStringLiteral("--help") || arguments.value(0) == QStringLiteral("-h")) {
+    out << kUsage;
+    return 0;
+  }
+  const QString command = arguments.value(0);
+  try {
+    if (command == QStringLiteral("build")) return build(arguments.mid(1), out, err);
+    throw UsageProblem{command.isEmpty() ? QStringLiteral("no command given") : QStringLiteral("unknown command '%1'").arg(command)};
+  } catch (const UsageProblem& problem) {
+    err << "fhsound: " << problem.text << "\n\n" << kUsage;
+    return 2;
+  } catch (const SourceProblem& problem) {
+    err << "fhsound: " << problem.where() << ": " << problem.text << '\n';
+    return 1;
+  }
+}
+
+}  // namespace fh::fhsound

@@ -3,8 +3,6 @@
 #include "SvgSource.h"
 
 #include <QBuffer>
-#include <QFile>
-#include <QSaveFile>
 
 namespace fh::fhart {
 
@@ -16,16 +14,6 @@ QByteArray bmpBytes(const QImage& indexed) {
   buffer.open(QIODevice::WriteOnly);
   if (!indexed.save(&buffer, "BMP")) throw ArtProblem{QStringLiteral("Qt could not encode a BMP file")};
   return buffer.data();
-}
-
-bool writeIfChanged(const QString& file, const QByteArray& bytes) {
-  QFile old(file);
-  if (old.open(QIODevice::ReadOnly) && old.size() == bytes.size() && old.readAll() == bytes) return false;
-  old.close();
-  QSaveFile out(file);
-  if (!out.open(QIODevice::WriteOnly) || out.write(bytes) != bytes.size() || !out.commit())
-    throw ArtProblem{QStringLiteral("cannot write %1 (%2)").arg(file, out.errorString())};
-  return true;
 }
 
 }  // namespace fh::fhart

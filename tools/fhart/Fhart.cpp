@@ -4,6 +4,8 @@
 #include "SharedPalette.h"
 #include "SvgPicture.h"
 
+#include "platform/FileUpdate.h"
+
 #include <QDir>
 #include <QFileInfo>
 
@@ -62,7 +64,9 @@ int render(const QStringList& args, QTextStream& out, QTextStream& err) {
   int written = 0;
   for (const RenderedPicture& picture : pictures) {
     const QString target = targets.filePath(QFileInfo(picture.name).completeBaseName() + QStringLiteral(".bmp"));
-    if (writeIfChanged(target, bmpBytes(inPalette(picture.image, palette)))) ++written;
+    const FileUpdate update = writeFileIfChanged(target, bmpBytes(inPalette(picture.image, palette)));
+    if (!update.error.isEmpty()) throw ArtProblem{QStringLiteral("cannot write %1 (%2)").arg(target, update.error)};
+    if (update.written) ++written;
   }
   out << "fhart: " << pictures.size() << (pictures.size() == 1 ? " picture" : " pictures") << " in "
       << QDir::toNativeSeparators(targets.path()) << ", " << written << " written, " << pictures.size() - written

@@ -3,10 +3,11 @@
 #include "MidiFile.h"
 #include "MusicSource.h"
 
+#include "platform/FileUpdate.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 
 namespace fh::fhmidi {
 
@@ -27,16 +28,6 @@ struct UsageProblem {
 };
 
 // Writes bytes unless the file already holds exactly them; says whether it wrote.
-bool writeIfChanged(const QString& path, const QByteArray& bytes) {
-  QFile existing(path);
-  if (existing.open(QIODevice::ReadOnly) && existing.readAll() == bytes) return false;
-  existing.close();
-  QSaveFile file(path);
-  if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
-    throw SourceError{path, 0, QStringLiteral("cannot be written: %1").arg(file.errorString())};
-  return true;
-}
-
 int build(const QStringList& args, QTextStream& out, QTextStream& err) {
   if (args.size() != 2) throw UsageProblem{QStringLiteral("build needs a source folder and an output folder")};
   const QDir sources(args[0]);
@@ -53,7 +44,9 @@ int build(const QStringList& args, QTextStream& out, QTextStream& err) {
       if (!file.open(QIODevice::ReadOnly)) throw SourceError{path, 0, QStringLiteral("cannot be read")};
       const Song song = parseMusicSource(QString::fromUtf8(file.readAll()), path);
       const QString output = target.filePath(QFileInfo(name).completeBaseName() + QStringLiteral(".mid"));
-      const bool wrote = writeIfChanged(output, writeMidiFile(song));
+      const FileUpdate update = writeFileIfChanged(output, writeMidiFile(song));
+      if (!update.error.isEmpty()) throw SourceError{output, 0, QStringLiteral("cannot be written: %1").arg(update.error)};
+      const bool wrote = update.written;
       out << (wrote ? "wrote " : "unchanged ") << output << " ("
           << QString::number(secondsAt(song.tempos, song.endTick), 'f', 1) << " s)\n";
     } catch (const SourceError& error) {

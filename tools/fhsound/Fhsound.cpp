@@ -5,10 +5,10 @@
 #include "Synthesis.h"
 #include "WaveFile.h"
 
+#include "platform/FileUpdate.h"
+
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 
 namespace fh::fhsound {
 
@@ -30,16 +30,6 @@ struct UsageProblem {
 
 QString decibels(double value) { return QString::number(value, 'f', 1) + QStringLiteral(" dB"); }
 
-// Writes the file only when its bytes differ, so that its time stamp tells when it last changed.
-bool writeIfChanged(const QString& path, const QByteArray& bytes) {
-  QFile old(path);
-  if (old.open(QIODevice::ReadOnly) && old.readAll() == bytes) return false;
-  QSaveFile file(path);
-  if (!file.open(QIODevice::WriteOnly) || file.write(bytes) != bytes.size() || !file.commit())
-    throw SourceProblem{path, 0, QStringLiteral("cannot be written: %1").arg(file.errorString())};
-  return true;
-}
-
 int build(const QStringList& args, QTextStream& out, QTextStream& err) {
   if (args.size() != 2) throw UsageProblem{QStringLiteral("build needs a source folder and an output folder")};
   if (!QFileInfo(args[0]).isDir()) throw UsageProblem{QStringLiteral("there is no folder %1").arg(args[0])};
@@ -51,7 +41,9 @@ int build(const QStringList& args, QTextStream& out, QTextStream& err) {
   for (const SoundSource& sound : sounds) {
     const MasteredSound mastered = master(renderSound(sound));
     const QString path = target.filePath(sound.name + QStringLiteral(".wav"));
-    const bool written = writeIfChanged(path, waveFile(mastered.samples, kSampleRate));
+    const FileUpdate update = writeFileIfChanged(path, waveFile(mastered.samples, kSampleRate));
+    if (!update.error.isEmpty()) throw SourceProblem{path, 0, QStringLiteral("cannot be written: %1").arg(update.error)};
+    const bool written = update.written;
     out << sound.name << ".wav: " << QString::number(sound.length, 'f', 2) << " s" << (sound.loop ? " loop" : "")
         << ", loudness " << decibels(mastered.loudnessDb) << ", peak " << decibels(mastered.peakDb)
         << (written ? "" : ", unchanged") << '\n';

@@ -22,6 +22,7 @@ std::vector<Shown> ScriptedUi::messageBoxes() const {
 
 Answer ScriptedUi::messageBox(const QString& text, Buttons buttons, const QString& title) {
   m_shown.push_back({Shown::Kind::MessageBox, text, title, buttons});
+  if (onMessageBox) onMessageBox(text);
   if (m_answers.empty()) return Answer::Ok;
   const Answer answer = m_answers.front();
   m_answers.pop_front();

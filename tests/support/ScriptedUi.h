@@ -42,6 +42,9 @@ class ScriptedUi final : public Ui {
   // What the "player" does while the next modal form is up.
   void queueModal(std::function<void(QWidget&)> action) { m_modals.push_back(std::move(action)); }
 
+  // What else happens while a message box is up (the player puts the CD in...).
+  std::function<void(const QString&)> onMessageBox;
+
   const std::vector<Shown>& shown() const { return m_shown; }
   std::vector<Shown> messageBoxes() const;
   int yields() const { return m_yields; }

@@ -7,6 +7,9 @@
 namespace fh::fhart {
 
 inline constexpr int kPaletteSize = 256;
+// The palette written as a picture: the size of the game's screen, which the windows hold as theirs.
+inline constexpr int kPalettePictureWidth = 640;
+inline constexpr int kPalettePictureHeight = 480;
 
 // The one palette that all pictures share, built from all of them together. Colours that cover
 // areas (the house's flat colours) get an entry of their own and so stay exact; the rest (the

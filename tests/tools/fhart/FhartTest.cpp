@@ -84,6 +84,40 @@ TEST(FhartRender, PicturesTakeTheirSizeAndShareOnePaletteOf256Colours) {
   EXPECT_EQ(tiny.pixel(3, 1), qRgb(0xe0, 0x4a, 0x3a));
 }
 
+TEST(FhartRender, SeveralFoldersShareOnePaletteThatCanBeWrittenAsAPicture) {
+  TempFolder folder;
+  folder.write(QStringLiteral("house/Kitchen.svg"), svg(120, 60, room(QStringLiteral("#f6e7c8"))));
+  folder.write(QStringLiteral("windows/Button.svg"), svg(40, 20, room(QStringLiteral("#9b5d8f"))));
+  const FhartRun run = fhart({QStringLiteral("render"), QStringLiteral("--palette-picture"), folder.at(QStringLiteral("win/Palette.bmp")),
+                              folder.at(QStringLiteral("house")), folder.at(QStringLiteral("out")),
+                              folder.at(QStringLiteral("windows")), folder.at(QStringLiteral("win"))});
+  ASSERT_EQ(run.code, 0) << run.err.toStdString();
+
+  const QImage kitchen(folder.at(QStringLiteral("out/Kitchen.bmp")));
+  const QImage button(folder.at(QStringLiteral("win/Button.bmp")));
+  const QImage palette(folder.at(QStringLiteral("win/Palette.bmp")));
+  EXPECT_FALSE(QFileInfo::exists(folder.at(QStringLiteral("out/Button.bmp"))));
+  EXPECT_EQ(button.pixel(2, 2), qRgb(0x9b, 0x5d, 0x8f));
+  EXPECT_EQ(kitchen.colorTable(), button.colorTable());
+  ASSERT_EQ(palette.size(), QSize(640, 480));
+  EXPECT_EQ(palette.format(), QImage::Format_Indexed8);
+  EXPECT_EQ(palette.colorTable(), kitchen.colorTable());
+  // Each swatch of 40 x 30 is its entry, row by row.
+  for (int entry : {0, 17, 128, 255}) {
+    const int left = (entry % 16) * 40;
+    const int top = (entry / 16) * 30;
+    EXPECT_EQ(palette.pixelIndex(left, top), entry);
+    EXPECT_EQ(palette.pixelIndex(left + 39, top + 29), entry);
+  }
+
+  const FhartRun again = fhart({QStringLiteral("render"), QStringLiteral("--palette-picture"), folder.at(QStringLiteral("win/Palette.bmp")),
+                                folder.at(QStringLiteral("house")), folder.at(QStringLiteral("out")),
+                                folder.at(QStringLiteral("windows")), folder.at(QStringLiteral("win"))});
+  EXPECT_TRUE(again.out.contains(QStringLiteral("the palette in"))) << again.out.toStdString();
+  EXPECT_TRUE(again.out.contains(QStringLiteral("unchanged\n"))) << again.out.toStdString();
+  EXPECT_FALSE(again.out.contains(QStringLiteral(", written\n"))) << again.out.toStdString();
+}
+
 TEST(FhartRender, FlatColoursStayExactAmongMoreColoursThanThePaletteHolds) {
   TempFolder folder;
   // Two long gradients give far more than 256 colours; the flat bands must still come out exact,
@@ -221,6 +255,9 @@ TEST(FhartCommandLine, FoldersAndArgumentsAreChecked) {
   EXPECT_TRUE(missing.err.contains(QStringLiteral("there is no folder"))) << missing.err.toStdString();
   EXPECT_EQ(fhart({QStringLiteral("preview"), folder.at(QStringLiteral("gone.svg")), folder.at(QStringLiteral("x.png"))}).code, 2);
   EXPECT_EQ(fhart({QStringLiteral("render"), folder.at(QStringLiteral("empty"))}).code, 2);
+  EXPECT_EQ(fhart({QStringLiteral("render"), folder.at(QStringLiteral("empty")), folder.at(QStringLiteral("out")),
+                   folder.at(QStringLiteral("empty"))}).code, 2);
+  EXPECT_EQ(fhart({QStringLiteral("render"), QStringLiteral("--palette-picture")}).code, 2);
   EXPECT_EQ(fhart({QStringLiteral("draw")}).code, 2);
   EXPECT_EQ(fhart({QStringLiteral("--help")}).code, 0);
 }

@@ -1,0 +1,69 @@
+#include "platform/ImagePair.h"
+
+#include "platform/Guard.h"
+#include "platform/Ui.h"
+
+#include <QMouseEvent>
+#include <QPainter>
+
+namespace fh {
+
+ImagePair::ImagePair(const QString& name, QWidget* parent) : QWidget(parent) {
+  setObjectName(name);
+  hide();
+}
+
+void ImagePair::setPictures(const QPixmap& up, const QPixmap& down) {
+  m_up = up;
+  m_down = down;
+  resize(up.size());
+  update();
+}
+
+void ImagePair::setUpVisible(bool visible) {
+  m_upVisible = visible;
+  showState();
+}
+
+void ImagePair::setDownVisible(bool visible) {
+  m_downVisible = visible;
+  showState();
+}
+
+void ImagePair::showState() {
+  setVisible(m_upVisible || m_downVisible);
+  update();
+}
+
+void ImagePair::mouseDown() {
+  setUpVisible(false);
+  setDownVisible(true);
+  DoEvents();
+}
+
+void ImagePair::mouseUp() {
+  setUpVisible(true);
+  setDownVisible(false);
+  DoEvents();
+  if (onAction) onAction();
+}
+
+void ImagePair::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  if (m_downVisible) painter.drawPixmap(0, 0, m_down);
+  else if (m_upVisible) painter.drawPixmap(0, 0, m_up);
+}
+
+void ImagePair::mousePressEvent(QMouseEvent* event) {
+  if (event->button() != Qt::LeftButton) return;
+  m_pressed = true;
+  guarded("button press", [this] { mouseDown(); });
+}
+
+void ImagePair::mouseReleaseEvent(QMouseEvent* event) {
+  if (event->button() != Qt::LeftButton || !m_pressed) return;
+  m_pressed = false;
+  guarded("button release", [this] { mouseUp(); });
+}
+
+}  // namespace fh

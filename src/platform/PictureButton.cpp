@@ -1,0 +1,25 @@
+#include "platform/PictureButton.h"
+
+#include <QPainter>
+
+namespace fh {
+
+PictureButton::PictureButton(const QString& name, const QString& toolTip, QWidget* parent) : QPushButton(parent) {
+  setObjectName(name);
+  setToolTip(toolTip);
+  setFocusPolicy(Qt::TabFocus);
+}
+
+void PictureButton::setPictures(const QPixmap& normal, const QPixmap& pressed) {
+  m_normal = normal;
+  m_pressed = pressed;
+  resize(normal.size());
+  update();
+}
+
+void PictureButton::paintEvent(QPaintEvent*) {
+  QPainter painter(this);
+  painter.drawPixmap(0, 0, isDown() ? m_pressed : m_normal);
+}
+
+}  // namespace fh

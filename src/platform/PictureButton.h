@@ -1,0 +1,24 @@
+#pragma once
+
+#include <QPixmap>
+#include <QPushButton>
+
+namespace fh {
+
+// A command button drawn as a picture, with a second picture while it is pressed. It clicks as any
+// push button does: on a release over it, or by the keyboard.
+class PictureButton : public QPushButton {
+ public:
+  PictureButton(const QString& name, const QString& toolTip, QWidget* parent);
+
+  void setPictures(const QPixmap& normal, const QPixmap& pressed);
+
+ protected:
+  void paintEvent(QPaintEvent* event) override;
+
+ private:
+  QPixmap m_normal;
+  QPixmap m_pressed;
+};
+
+}  // namespace fh

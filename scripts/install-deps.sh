@@ -16,6 +16,8 @@ packages=(
   libgtest-dev googletest
   # listening to the music in the tests: rendering MIDI and measuring the sound
   fluidsynth sox
+  # a small General MIDI bank, so that the sound tests need not load the large one
+  timgm6mb-soundfont
   # running under a virtual display
   xvfb xauth
 )

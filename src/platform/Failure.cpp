@@ -10,6 +10,7 @@ QString failureText(Failure kind) {
     case Failure::DivisionByZero: return QStringLiteral("Division by zero");
     case Failure::TypeMismatch: return QStringLiteral("Type mismatch");
     case Failure::FileNotFound: return QStringLiteral("File not found");
+    case Failure::DeviceUnavailable: return QStringLiteral("Device unavailable");
     case Failure::InputPastEndOfFile: return QStringLiteral("Input past end of file");
     case Failure::PathFileAccess: return QStringLiteral("Path/File access error");
     case Failure::PathNotFound: return QStringLiteral("Path not found");

@@ -15,6 +15,7 @@ enum class Failure : int {
   DivisionByZero = 11,
   TypeMismatch = 13,
   FileNotFound = 53,
+  DeviceUnavailable = 68,
   InputPastEndOfFile = 62,
   PathFileAccess = 75,
   PathNotFound = 76,

@@ -36,8 +36,10 @@ void ImagePair::showState() {
 }
 
 void ImagePair::mouseDown() {
-  setUpVisible(false);
+  // Down first: for a moment both are hidden otherwise, and a hidden widget loses the mouse, so the
+  // release would never arrive.
   setDownVisible(true);
+  setUpVisible(false);
   DoEvents();
 }
 

@@ -6,6 +6,7 @@
 #include "platform/Ui.h"
 #include "sound/cSoundMgr.h"
 #include "startup/Globals.h"
+#include "startup/Splash.h"
 #include "startup/frmSetup.h"
 
 namespace fh {
@@ -17,7 +18,7 @@ void Main() {
                Buttons::OkCancel) == Answer::Cancel)
       EndProgram();
   }
-  // Not yet: show Splash, not modally; the opening screen arrives with the game course.
+  TheSplash().showSplash();
 }
 
 void InitProgram() {

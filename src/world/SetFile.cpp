@@ -18,9 +18,10 @@ void LoadSet(const QString& fileName) {
   CurrentSet = std::make_shared<cSet>();
   ByteFile file = ByteFile::openForReading(DatabasePath + fileName);
   CurrentSet->Load(file);
+  CurrentSet->LoadAssets();
   file.close();
-  // Not yet: CurrentSet->ShowShot(CurrentShotIndex) shows the shot of the user's record, never the
-  // nCurrentShot of the file.
+  // The user's record decides which shot is shown, never the nCurrentShot of the file.
+  CurrentSet->ShowShot(CurrentShotIndex);
 }
 
 // Every saved shot has its row in table Shots; a new row gets only its Name, so its friendly name

@@ -1,12 +1,16 @@
 #include "world/cSet.h"
 
 #include "platform/ByteFile.h"
-#include "world/cShot.h"
 
 namespace fh {
 
 cSet::cSet() = default;
-cSet::~cSet() = default;
+cSet::cSet(cSet&&) noexcept = default;
+cSet& cSet::operator=(cSet&&) noexcept = default;
+
+cSet::~cSet() {
+  if (m_endLife) m_endLife(*this);
+}
 
 void cSet::Save(ByteFile& file, const SetWriting& writing) const {
   setfile::putTag(file, sHeader);
@@ -22,8 +26,6 @@ void cSet::Load(ByteFile& file, const SetReading& reading) {
   nNumShots = file.getInteger();
   nCurrentShot = file.getInteger();
   setfile::loadRecords(file, nNumShots, Shots, reading, "nNumShots");
-  // Not yet: the sprites and this user's containers are loaded from the database here (LoadAssets),
-  // so that a set read in the game needs the database open.
 }
 
 }  // namespace fh

@@ -13,7 +13,8 @@ namespace fh {
 class ByteFile;
 class cHotSpot;
 
-// One fixed view of the house with its neighbours and hotspots.
+// One fixed view of the house with its neighbours and hotspots. What it looks like is not stored
+// with it: backdrop, sprites and score are computed from the database for this user each time.
 class cShot {
  public:
   // A shot record without hotspots.
@@ -29,6 +30,18 @@ class cShot {
   bool GoElapsedTime = false;
   i16 NumHotSpots = 0;
   std::vector<std::shared_ptr<cHotSpot>> HotSpots;  // NumHotSpots hotspots, index 0 first
+
+  // The shot's name for the player: "Freindly Name" of its row in table Shots, or sName without one.
+  QString FriendlyName() const;
+  // Computes the score and the sprites anew, and with `bChange` also the backdrop, as on entering the
+  // shot. Without it only state inside the shot has changed.
+  void RefreshVisualElements(bool bChange);
+  // Gives each sprite of this shot the strip of its first cel source whose condition holds, and hides
+  // the sprites of other shots and those without a holding source. With `bChange` the sprites of this
+  // shot are also drawn, and the looping ones started.
+  void RefreshSprites(bool bChange);
+  // Shows the score of this user's house, and marks the user as winner when it is 1.
+  void RefreshScore();
 
   // Appends the record and its hotspots at the file's position.
   void Save(ByteFile& file, const SetWriting& writing = {}) const;

@@ -5,14 +5,17 @@
 #include "startup/DirectoryLists.h"
 #include "startup/Globals.h"
 #include "startup/Main.h"
+#include "startup/Splash.h"
 #include "startup/frmSetup.h"
 
 #include "ScriptedUi.h"
+#include "SessionFixture.h"
 #include "TempFolder.h"
 
 #include <gtest/gtest.h>
 
 using namespace fh;
+using fh::test::pictureBytes;
 using fh::test::ScriptedUi;
 using fh::test::Shown;
 using fh::test::TempFolder;
@@ -60,11 +63,14 @@ TEST_F(StartUp, DatabaseFolderLiesBesideTheProgram) {
 TEST_F(StartUp, FirstRunInsideTheResourceTreeAsksNothing) {
   WorkingDirectory here(tree.path());
   tree.write(QStringLiteral("Graphics/Menu.bmp"));
+  for (const char* name : {"opening.bmp", "slide03.bmp"}) tree.write(QStringLiteral("Graphics/") + QLatin1String(name), pictureBytes({16, 16}));
   ScriptedUi ui;
   Main();
   EXPECT_TRUE(ui.shown().empty());
   EXPECT_EQ(ResourcePath, QString());
   EXPECT_EQ(SoundMgr().PanBase, 1);
+  EXPECT_TRUE(TheSplash().isVisible());  // the opening screen is the last step
+  UnloadSplash();
 }
 
 TEST_F(StartUp, StoredResourcePathIsUpperCasedAndStillFound) {

@@ -47,19 +47,6 @@ TEST_F(SetFileTest, SaveReplacesTheOldFileOfTheName) {
   EXPECT_EQ(fileBytes(QStringLiteral("World.set")), savedBytes(*CurrentSet));
 }
 
-TEST_F(SetFileTest, LoadReadsIntoANewCurrentSetWithoutRegardToCase) {
-  folder.write(QStringLiteral("House.set"), savedBytes(sampleSet()));
-  const auto before = std::make_shared<cSet>();
-  CurrentSet = before;
-  CurrentShotIndex = 0;
-  LoadSet(QStringLiteral("HOUSE.SET"));
-  ASSERT_NE(CurrentSet, before);
-  EXPECT_EQ(CurrentSet->sName, QStringLiteral("Fernhollow"));
-  EXPECT_EQ(CurrentSet->Shots.size(), 2u);
-  EXPECT_EQ(CurrentSet->nCurrentShot, 1);
-  EXPECT_EQ(CurrentShotIndex, 0);  // the user's record decides which shot is shown, not the file
-}
-
 TEST_F(SetFileTest, LoadOfNoNameDoesNothingAndOfAMissingFileFails) {
   const auto before = std::make_shared<cSet>();
   CurrentSet = before;

@@ -1,0 +1,313 @@
+#include "mainview/ShotView.h"
+
+#include "mainview/ElapsedTimeText.h"
+#include "platform/CdPrompt.h"
+#include "platform/Failure.h"
+#include "platform/Fonts.h"
+#include "platform/ImagePair.h"
+#include "platform/MediaDevice.h"
+#include "platform/PictureBox.h"
+#include "platform/Pictures.h"
+#include "platform/Ui.h"
+#include "platform/WindowArt.h"
+#include "sound/MusicDevice.h"
+#include "sound/cSoundMgr.h"
+#include "startup/FixedPictures.h"
+#include "startup/Globals.h"
+#include "startup/frmSetup.h"
+#include "world/cSet.h"
+#include "world/cShot.h"
+#include "world/cSprite.h"
+
+#include <QEvent>
+#include <QGuiApplication>
+#include <QLabel>
+#include <QPainter>
+#include <QPushButton>
+#include <QScreen>
+
+#include <cmath>
+#include <functional>
+
+namespace fh {
+
+namespace {
+
+constexpr int kFrameWidth = 640;
+constexpr int kFrameHeight = 480;
+const QPoint kShotPlace(4, 48);
+const QSize kShotSize(632, 390);
+const QPoint kMeterPlace(240, 0);
+constexpr int kMeterCells = 24;
+
+std::unique_ptr<ShotView>& theView() {
+  static std::unique_ptr<ShotView> view;
+  return view;
+}
+
+QLabel* displayLabel(QWidget* parent, const QString& name, const QString& text, const QColor& colour) {
+  auto* label = new QLabel(text, parent);
+  label->setObjectName(name);
+  label->setFont(ArialFont(9, true));
+  label->setAlignment(Qt::AlignCenter);
+  QPalette palette = label->palette();
+  palette.setColor(QPalette::WindowText, colour);
+  label->setPalette(palette);
+  return label;
+}
+
+QPushButton* editButton(QWidget* parent, const QString& name, const QString& caption, QSize size) {
+  auto* button = new QPushButton(caption, parent);
+  button->setObjectName(name);
+  button->resize(size);
+  button->hide();
+  return button;
+}
+
+ImagePair* frameButton(QWidget* parent, const QString& name, const QString& pictures) {
+  auto* pair = new ImagePair(name, parent);
+  pair->setPictures(WindowPixmap(pictures + QStringLiteral("Up")), WindowPixmap(pictures + QStringLiteral("Down")));
+  return pair;
+}
+
+// Runs the steps of the window's load. A failing step is taken for a resource tree that isn't
+// there: the first time the player is shown the setup form to name it, after that asked for the
+// CD; either way the same step runs again.
+class LoadSteps {
+ public:
+  void run(const std::function<void()>& step) {
+    for (;;) {
+      try {
+        step();
+        return;
+      } catch (const RuntimeFailure&) {
+        if (!m_setupShown) {
+          m_setupShown = true;
+          ui().showModal(setupForm());
+        } else if (AskForCd() == Answer::Cancel) {
+          EndProgram();
+        }
+      }
+    }
+  }
+
+ private:
+  bool m_setupShown = false;
+};
+
+}  // namespace
+
+ShotView::ShotView() : MMControl1(MusicDevice()) {
+  setObjectName(QStringLiteral("ShotView"));
+  setWindowTitle(QStringLiteral("Fernhollow"));
+  setWindowFlags(Qt::Window | Qt::FramelessWindowHint);
+  QPalette black = palette();
+  black.setColor(QPalette::Window, Qt::black);
+  setPalette(black);
+  setAutoFillBackground(true);
+
+  // The controls as they stand at design time; the load step places them.
+  BackPlane = new QLabel(this);
+  BackPlane->setObjectName(QStringLiteral("BackPlane"));
+  Backdrop = new QLabel(this);
+  Backdrop->setObjectName(QStringLiteral("Backdrop"));
+  Backdrop->hide();
+  DisplayView = new PictureBox(this);
+  DisplayView->setObjectName(QStringLiteral("DisplayView"));
+  ElapsedTimeView = displayLabel(this, QStringLiteral("ElapsedTimeView"), QStringLiteral("0:00:00"), QColor(255, 224, 192));
+  ElapsedTimeView->resize(50, 15);
+  Score = displayLabel(this, QStringLiteral("Score"), QStringLiteral("100"), QColor(255, 224, 192));
+  Score->resize(32, 15);
+  TextWindow = displayLabel(this, QStringLiteral("TextWindow"), QString(), Qt::black);
+  TextWindow->setWordWrap(true);
+  m_meterView = new QLabel(this);
+  m_meterView->setObjectName(QStringLiteral("Meter"));
+  m_meterView->hide();
+  btnSetForm = editButton(this, QStringLiteral("btnSetForm"), QStringLiteral("S&et Edit"), {65, 25});
+  btnShotEdit = editButton(this, QStringLiteral("btnShotEdit"), QStringLiteral("Sh&otEdit"), {65, 25});
+  Save = editButton(this, QStringLiteral("Save"), QStringLiteral("&Save"), {57, 25});
+
+  SpriteCels.resize(1);
+  SpriteTimer.push_back(std::make_unique<Timer>("sprite timer"));
+  SpriteTimer[0]->onTick = [this] { spriteTick(0); };
+
+  ElapsedTime.setInterval(1000);
+  ElapsedTime.onTick = [this] { ElapsedTime_Timer(); };
+  ElapsedTime.setEnabled(true);
+  GameClock.setInterval(75);
+  MeterTimer.onTick = [this] { meterTick(); };
+}
+
+ShotView::~ShotView() = default;
+
+void ShotView::loadWindow() {
+  LoadSteps steps;
+  steps.run([this] {
+    GameMode = 1;
+    CurrentHotSpotIndex = -1;
+    nSpriteControls = 0;
+  });
+  // Without a window manager a request for full screen is ignored, so the window takes the
+  // screen's geometry itself.
+  steps.run([this] { setGeometry(QGuiApplication::primaryScreen()->geometry()); });
+  steps.run([this] {
+    BackPlane->setGeometry((width() - kFrameWidth) / 2, (height() - kFrameHeight) / 2, kFrameWidth, kFrameHeight);
+  });
+  steps.run([this] { BackPlane->setPixmap(QPixmap::fromImage(LoadPicture(ResourcePath + QStringLiteral("graphics\\") + kFramePicture))); });
+  steps.run([this] {
+    DisplayView->setGeometry(QRect(framePosition() + kShotPlace, kShotSize));
+    Backdrop->setGeometry(DisplayView->geometry());
+  });
+  steps.run([this] {
+    btnStereo = frameButton(this, QStringLiteral("btnStereo"), QStringLiteral("Stereo"));
+    btnComputer = frameButton(this, QStringLiteral("btnComputer"), QStringLiteral("Computer"));
+    btnExit = frameButton(this, QStringLiteral("btnExit"), QStringLiteral("Exit"));
+    btnLeft = frameButton(this, QStringLiteral("btnLeft"), QStringLiteral("Left"));
+    btnRight = frameButton(this, QStringLiteral("btnRight"), QStringLiteral("Right"));
+    const QPoint corner = framePosition();
+    ElapsedTimeView->move(corner + QPoint(134, 16));
+    Score->move(corner + QPoint(240, 31));
+    btnStereo->move(corner + QPoint(331, 5));
+    btnComputer->move(corner + QPoint(472, 2));
+    btnExit->move(corner + QPoint(582, 6));
+    btnLeft->move(corner + QPoint(7, 440));
+    btnRight->move(corner + QPoint(579, 440));
+    for (ImagePair* button : {btnStereo, btnComputer, btnExit, btnLeft, btnRight}) button->setUpVisible(true);
+  });
+  steps.run([this] {
+    MeterAnim.Picture = WindowPixmap(QStringLiteral("Meter"));
+    MeterAnim.Cols = kMeterCells;
+  });
+  steps.run([this] { MeterTimer.setEnabled(true); });
+  steps.run([this] {
+    const QPoint corner = framePosition();
+    btnSetForm->move(corner);
+    btnShotEdit->move(corner + QPoint(0, btnSetForm->height()));
+    Save->move(corner + QPoint(btnSetForm->width(), 0));
+  });
+  steps.run([this] { TextWindow->setGeometry(QRect(framePosition() + QPoint(86, 442), QSize(468, 30))); });
+  // Not yet: the window-level mouse hook starts reporting here, with the input of the next issue.
+  steps.run([this] {
+    MMControl1.Notify = false;
+    MMControl1.Wait = true;
+    MMControl1.Shareable = false;
+    MMControl1.DeviceType = QStringLiteral("Sequencer");
+  });
+  m_meterView->raise();
+}
+
+QPoint ShotView::framePosition() const { return BackPlane->pos(); }
+
+void ShotView::StopVideo() {
+  SoundMgr().Enable();
+  m_videoRunning = false;
+}
+
+void ShotView::SetScore(i16 score) {
+  if (UserHasWonGame) {
+    Score->setText(QStringLiteral("wise!"));
+    MeterTimer.setInterval(3000);
+    CurrentScore = 1;
+    return;
+  }
+  CurrentScore = score;
+  Score->setText(QString::number(score));
+  // Scores are often set deep in a click's script, long before the event loop runs again.
+  Score->repaint();
+  const i16 distance = static_cast<i16>(110 - CurrentScore);
+  // The platform rounds a half to the even neighbour, as nearbyint does in the default mode.
+  MeterTimer.setInterval(static_cast<int>(std::nearbyint(distance / 120.0 * 1000 + 50)));
+}
+
+void ShotView::SetCursor(i16 number) { DisplayView->setMousePointer(number <= 100 ? number : 99); }
+
+i16 ShotView::AddSprite() {
+  if (nSpriteControls > 0) {
+    const i16 index = nSpriteControls;
+    SpriteCels.resize(static_cast<size_t>(index) + 1);
+    auto timer = std::make_unique<Timer>("sprite timer");
+    timer->onTick = [this, index] { spriteTick(index); };
+    SpriteTimer.push_back(std::move(timer));
+  }
+  return nSpriteControls++;
+}
+
+void ShotView::ClearSprites() {
+  SpriteTimer[0]->setEnabled(false);
+  SpriteCels.resize(1);
+  SpriteTimer.resize(1);
+  nSpriteControls = 0;
+}
+
+void ShotView::SetBackdrop(const QString& name, bool force) {
+  bool changed = false;
+  if (name != m_currentBackdrop) {
+    loadBackdrop(name);
+    m_currentBackdrop = name;
+    changed = true;
+  }
+  if (force || changed) DisplayView->setPicture(Backdrop->pixmap());
+}
+
+// The backdrop's load asks for the CD first and for the resource folder second, and can't be left:
+// it runs until the picture loads.
+void ShotView::loadBackdrop(const QString& name) {
+  for (;;) {
+    try {
+      Backdrop->setPixmap(QPixmap::fromImage(LoadPicture(ResourcePath + QStringLiteral("graphics\\") + name)));
+      return;
+    } catch (const RuntimeFailure&) {
+      if (AskForCd() == Answer::Cancel) ui().showModal(setupForm());
+    }
+  }
+}
+
+void ShotView::ElapsedTime_Timer() {
+  if (!CurrentShot) return;
+  if (CurrentShot->GoElapsedTime && !ModalOpen && !UserHasWonGame) GameElapsedTime += 1.0f / 86400.0f;
+  ElapsedTimeView->setText(ElapsedTimeText(GameElapsedTime));
+}
+
+void ShotView::meterTick() {
+  if (!m_windowActivated) return;
+  // The cell is painted over the frame, above the score; nothing keeps it there but the next tick.
+  m_meterView->setPixmap(MeterAnim.GraphicCell(m_meterFrame));
+  m_meterView->setGeometry(QRect(framePosition() + kMeterPlace, QSize(MeterAnim.CellWidth(), MeterAnim.CellHeight())));
+  m_meterView->show();
+  m_meterView->repaint();
+  ++m_meterFrame;
+  if (m_meterFrame > kMeterCells - 1) m_meterFrame = 0;
+}
+
+void ShotView::spriteTick(i16 index) {
+  if (!CurrentSet) throw RuntimeFailure(Failure::ObjectNotSet, QStringLiteral("CurrentSet"));
+  const auto sprite = CurrentSet->GetSprite(index);
+  if (!sprite) throw RuntimeFailure(Failure::ObjectNotSet, QStringLiteral("sprite %1").arg(index));
+  sprite->NextFrame();
+}
+
+bool ShotView::event(QEvent* event) {
+  if (event->type() == QEvent::WindowActivate) m_windowActivated = true;
+  return QWidget::event(event);
+}
+
+void ShotView::showView() {
+  show();
+  raise();
+  activateWindow();
+}
+
+ShotView& TheShotView() {
+  std::unique_ptr<ShotView>& view = theView();
+  if (!view) {
+    view = std::make_unique<ShotView>();
+    view->loadWindow();
+  }
+  return *view;
+}
+
+bool ShotViewExists() { return theView() != nullptr; }
+
+void UnloadShotView() { theView().reset(); }
+
+}  // namespace fh

@@ -1,0 +1,84 @@
+#include "script/ContainerState.h"
+
+#include "platform/Database.h"
+#include "platform/Ui.h"
+#include "script/Dialogs.h"
+#include "startup/Globals.h"
+#include "world/GameDB.h"
+#include "world/cContainer.h"
+#include "world/cSet.h"
+#include "world/cShot.h"
+
+namespace fh {
+
+namespace {
+
+cContainer& liveContainer(const QString& name) {
+  if (!CurrentSet) throw RuntimeFailure(Failure::ObjectNotSet, QStringLiteral("CurrentSet"));
+  return CurrentSet->GetContainer(name);
+}
+
+i16 toggled(i16 state) {
+  const i16 next = addI16(state, 1);
+  return next == 2 ? 0 : next;
+}
+
+QueryDef containerQuery(const QString& name) {
+  QueryDef query = RequireGameDB().QueryDefs(QStringLiteral("GetContainer"));
+  query.SetParameter(QStringLiteral("SelectContainer"), name);
+  query.SetParameter(QStringLiteral("SelectUserID"), CurrentUserID);
+  return query;
+}
+
+// A container of the set without a row for this user: the copy in memory has changed already, and
+// the two differ until the next load.
+void reportMissingRow(const QString& name) {
+  MsgBox(QStringLiteral("Can't find Container ") + name + QStringLiteral(" check database and try again."));
+}
+
+void refreshCurrentShot(bool refresh) {
+  if (!CurrentShot) throw RuntimeFailure(Failure::ObjectNotSet, QStringLiteral("CurrentShot"));
+  CurrentShot->RefreshVisualElements(refresh);
+}
+
+}  // namespace
+
+void SetContainer(const QString& name, i16 state, bool refresh) {
+  liveContainer(name).CurrentState = state;
+  QueryDef query = containerQuery(name);
+  Recordset row = query.OpenRecordset();
+  if (row.IsEOF()) {
+    reportMissingRow(name);
+  } else {
+    row.Edit();
+    row.SetField(QStringLiteral("CurrentState"), state);
+    row.Update();
+  }
+  row.Close();
+  query.Close();
+  refreshCurrentShot(refresh);
+}
+
+void ToggleContainer(const QString& name, bool refresh) {
+  cContainer& container = liveContainer(name);
+  container.CurrentState = toggled(container.CurrentState);
+  QueryDef query = containerQuery(name);
+  Recordset row = query.OpenRecordset();
+  if (row.IsEOF()) {
+    reportMissingRow(name);
+  } else {
+    // Each copy steps from its own value.
+    row.Edit();
+    const i16 state = toggled(row.Field(QStringLiteral("CurrentState")).toI16());
+    row.SetField(QStringLiteral("CurrentState"), state);
+    row.Update();
+    const QString verbage = state != 0 ? QStringLiteral("State 1 Verbage") : QStringLiteral("State 0 Verbage");
+    ShowDialogString(row.Field(QStringLiteral("Friendly Name")).toText() + QStringLiteral(" is now ") +
+                     row.Field(verbage).toText());
+  }
+  row.Close();
+  query.Close();
+  refreshCurrentShot(refresh);
+}
+
+}  // namespace fh

@@ -1,0 +1,112 @@
+#include "startup/Session.h"
+
+#include "mainview/ShotView.h"
+#include "platform/Database.h"
+#include "platform/Ui.h"
+#include "script/Dialogs.h"
+#include "script/Interpreter.h"
+#include "sound/cSoundMgr.h"
+#include "startup/Globals.h"
+#include "startup/Splash.h"
+#include "startup/frmLogin.h"
+#include "world/GameDB.h"
+#include "world/SetFile.h"
+#include "world/cSet.h"
+
+namespace fh {
+
+namespace {
+
+Recordset currentUserRow() {
+  return RequireGameDB().OpenRecordset(QStringLiteral("SELECT * FROM Users WHERE ID = ?"), {CurrentUserID});
+}
+
+// The first row's column of a saved query, or `otherwise` when it gives no rows.
+i16 firstValue(const QString& query, const QString& column, i16 otherwise) {
+  Recordset rows = RequireGameDB().OpenRecordset(query);
+  const i16 value = rows.IsEOF() ? otherwise : rows.Field(column).toI16();
+  rows.Close();
+  return value;
+}
+
+}  // namespace
+
+void StartGame() {
+  // A login cancelled before leaves the database open; it is simply opened again.
+  GameDB = Database::OpenDatabase(DatabasePath + QStringLiteral("Fernhollow.mdb"));
+  if (!LoginUser()) {
+    TheSplash().showSplash();
+    return;
+  }
+
+  // The scale of the score's two halves, read anew for every player.
+  BaseStateADR = firstValue(QStringLiteral("ContainerDefaulStateADR"), QStringLiteral("CountOfName"), BaseStateADR);
+  BaseObjectADR = firstValue(QStringLiteral("ContainerDefaultObjectlADR"), QStringLiteral("SumOfADR"), BaseObjectADR);
+  ModalOpen = false;
+  ActiveComputerScreen = 0;
+
+  SoundMgr().Init();
+
+  // The world's first commands: sounds to load, and the "startset" line that names the set file.
+  Recordset startUp = RequireGameDB().OpenRecordset(QStringLiteral("SELECT * FROM StartUp"));
+  RunScript(startUp.Field(QStringLiteral("Script")).toText());
+  startUp.Close();
+
+  // The first use of the main view creates and loads it.
+  ShotView& view = TheShotView();
+  view.SetCursor(103);
+  // The shot's friendly name takes the line's place as soon as LoadSet shows the shot, so the
+  // welcome is seen only while the set loads.
+  ShowDialogString(QStringLiteral("Welcome to Fernhollow ") + CurrentUserName + QStringLiteral("!"));
+  view.showView();
+  // The player comes back at the shot of their record, not at the one the set file keeps.
+  LoadSet(StartSetFile);
+}
+
+bool LoginUser() {
+  frmLogin& login = loginForm();
+  ui().showModal(login);
+  const std::int32_t id = login.SelectedUserID;
+  if (id == -1) return false;
+
+  Recordset user = RequireGameDB().OpenRecordset(QStringLiteral("SELECT * FROM Users WHERE ID = ?"), {id});
+  CurrentUserID = id;
+  CurrentUserName = user.Field(QStringLiteral("User Name")).toText();
+  CurrentShotIndex = user.Field(QStringLiteral("Current Shot")).toI16();
+  GameElapsedTime = user.Field(QStringLiteral("ElapsedTime")).toSingle();
+  UserHasWonGame = user.Field(QStringLiteral("HasWonGame")).toBool();
+  user.Close();
+  return true;
+}
+
+void SetWonGame() {
+  if (UserHasWonGame) return;
+  UserHasWonGame = true;
+  Recordset user = currentUserRow();
+  user.Edit();
+  user.SetField(QStringLiteral("HasWonGame"), 1);
+  user.Update();
+  user.Close();
+}
+
+void EndGame() {
+  ShotView& view = TheShotView();
+  view.StopVideo();
+  // Not yet: unload the SelectMusic form, so that its choice doesn't outlive the session.
+
+  // Play time is written only here: a crash loses the time of this session and nothing else.
+  Recordset user = currentUserRow();
+  user.Edit();
+  user.SetField(QStringLiteral("ElapsedTime"), GameElapsedTime);
+  user.Update();
+  user.Close();
+
+  SoundMgr().UnloadSounds();
+  CurrentSet.reset();
+  RequireGameDB().Close();
+
+  // The main view stays loaded behind the opening screen, for the next player.
+  TheSplash().showSplash();
+}
+
+}  // namespace fh

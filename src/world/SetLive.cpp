@@ -1,0 +1,141 @@
+#include "world/cSet.h"
+
+#include "mainview/ShotView.h"
+#include "platform/Failure.h"
+#include "script/Dialogs.h"
+#include "world/GameDB.h"
+
+#include <algorithm>
+
+// The operations of the set that runs: its sprites and containers from the database, and the move
+// from shot to shot.
+namespace fh {
+
+namespace {
+
+// The shots go first, and with them the current one; then the sprites, and the main view unloads
+// their cel stores and frame timers.
+void EndLiveSet(cSet& set) {
+  if (CurrentShot && std::ranges::find(set.Shots, CurrentShot) != set.Shots.end()) CurrentShot.reset();
+  set.Shots.clear();
+  if (set.Sprites.empty()) return;
+  set.Sprites.clear();
+  if (ShotViewExists()) TheShotView().ClearSprites();
+}
+
+}  // namespace
+
+std::shared_ptr<cSprite> cSet::GetSpriteByName(const QString& lowerCaseName) const {
+  for (i16 i = 0; i < nNumSprites; ++i) {
+    if (Sprites[i]->Name.toLower() == lowerCaseName) return Sprites[i];
+  }
+  return nullptr;
+}
+
+std::shared_ptr<cSprite> cSet::GetSprite(i16 index) const {
+  if (index >= nNumSprites) return nullptr;
+  if (index < 0) throw RuntimeFailure(Failure::SubscriptOutOfRange, QStringLiteral("sprite %1").arg(index));
+  return Sprites[index];
+}
+
+cContainer& cSet::GetContainer(const QString& name) const {
+  const auto found = Containers.find(name.toLower());
+  if (found == Containers.end()) throw RuntimeFailure(Failure::InvalidCall, QStringLiteral("container '%1'").arg(name));
+  return *found->second;
+}
+
+// The hover test is off while the tables are half built.
+void cSet::LoadAssets() {
+  Database& db = RequireGameDB();
+  ShotView& view = TheShotView();
+  m_endLife = EndLiveSet;
+  view.GameClock.setEnabled(false);
+
+  Recordset sprites = db.OpenRecordset(QStringLiteral("GetAllSprites"));
+  if (!sprites.IsEOF()) {
+    sprites.MoveLast();
+    nNumSprites = toI16(sprites.RecordCount());
+    Sprites.assign(nNumSprites, nullptr);
+    for (sprites.MoveFirst(); !sprites.IsEOF(); sprites.MoveNext()) {
+      auto sprite = std::make_shared<cSprite>();
+      sprite->Name = sprites.Field(QStringLiteral("Name")).toText();
+      sprite->Shot = sprites.Field(QStringLiteral("Shot")).toText();
+      sprite->NumFrames = sprites.Field(QStringLiteral("NumFrames")).toI16();
+      sprite->X = sprites.Field(QStringLiteral("X")).toI16();
+      sprite->Y = sprites.Field(QStringLiteral("Y")).toI16();
+      sprite->FrameDelay = sprites.Field(QStringLiteral("FrameDelay")).toI16();
+      sprite->Loop = sprites.Field(QStringLiteral("Loop")).toBool();
+      sprite->Backwards = sprites.Field(QStringLiteral("Backwards")).toBool();
+      // Both are handed out in order from 0, so a frame timer finds its sprite by its own index.
+      sprite->SpriteIndex = view.AddSprite();
+      Sprites[sprites.AbsolutePosition()] = std::move(sprite);
+    }
+  }
+  sprites.Close();
+
+  QueryDef query = db.QueryDefs(QStringLiteral("GetAllContainers"));
+  query.SetParameter(QStringLiteral("SelectUserID"), CurrentUserID);
+  Recordset rows = query.OpenRecordset();
+  for (; !rows.IsEOF(); rows.MoveNext()) {
+    auto container = std::make_shared<cContainer>();
+    container->Name = rows.Field(QStringLiteral("Name")).toText();
+    // A container this user has no row for keeps the empty state and object.
+    const FieldValue wiseState = rows.Field(QStringLiteral("WiseState"));
+    if (!wiseState.isNull()) container->WiseState = wiseState.toI16();
+    const FieldValue wiseObject = rows.Field(QStringLiteral("WiseObject"));
+    if (!wiseObject.isNull()) container->WiseObject = wiseObject.toText();
+    const FieldValue currentObject = rows.Field(QStringLiteral("CurrentObject"));
+    if (!currentObject.isNull()) container->CurrentObject = currentObject.toText();
+    const FieldValue currentState = rows.Field(QStringLiteral("CurrentState"));
+    if (!currentState.isNull()) container->CurrentState = currentState.toI16();
+    const QString key = container->Name.toLower();
+    if (Containers.contains(key)) throw RuntimeFailure(Failure::InvalidCall, QStringLiteral("container '%1' twice").arg(key));
+    Containers.emplace(key, std::move(container));
+  }
+  rows.Close();
+  query.Close();
+  view.GameClock.setEnabled(true);
+}
+
+i16 cSet::AddShot(const QString& name) {
+  nNumShots = addI16(nNumShots, 1);
+  Shots.resize(nNumShots);
+  auto shot = std::make_shared<cShot>();
+  shot->sName = name;
+  Shots[nNumShots - 1] = std::move(shot);
+  return subI16(nNumShots, 1);
+}
+
+// The order of the other shots is kept. (Hotspots are deleted differently, on purpose.)
+void cSet::DeleteShot(i16 index) {
+  if (index < 0 || index >= nNumShots || index >= static_cast<int>(Shots.size()))
+    throw RuntimeFailure(Failure::SubscriptOutOfRange, QStringLiteral("shot %1").arg(index));
+  Shots.erase(Shots.begin() + index);
+  nNumShots = subI16(nNumShots, 1);
+  if (nNumShots == 0) CurrentShot.reset();
+}
+
+void cSet::ShowShot(i16 index) {
+  if (index == -1) return;
+  TheShotView().StopVideo();
+  m_endLife = EndLiveSet;
+  nCurrentShot = index;
+  CurrentShot = Shot(index);
+  CurrentShotIndex = index;
+  // Every move lands in the database at once: a crash loses nothing of the position.
+  Recordset user = RequireGameDB().OpenRecordset(QStringLiteral("SELECT * FROM Users WHERE ID = ?"), {CurrentUserID});
+  user.Edit();
+  user.SetField(QStringLiteral("Current Shot"), CurrentShotIndex);
+  user.Update();
+  user.Close();
+  ShowDialogString(CurrentShot->FriendlyName());
+  CurrentShot->RefreshVisualElements(true);
+}
+
+std::shared_ptr<cShot> cSet::Shot(i16 index) const {
+  if (index < 0 || index >= static_cast<int>(Shots.size()) || !Shots[index])
+    throw RuntimeFailure(Failure::SubscriptOutOfRange, QStringLiteral("shot %1").arg(index));
+  return Shots[index];
+}
+
+}  // namespace fh

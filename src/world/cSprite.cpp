@@ -1,0 +1,95 @@
+#include "world/cSprite.h"
+
+#include "mainview/ShotView.h"
+#include "platform/CdPrompt.h"
+#include "platform/Failure.h"
+#include "platform/PictureBox.h"
+#include "platform/Pictures.h"
+#include "sound/cSoundMgr.h"
+#include "startup/Globals.h"
+
+namespace fh {
+
+PictureClip& cSprite::cels() const {
+  std::vector<PictureClip>& all = TheShotView().SpriteCels;
+  if (SpriteIndex < 0 || SpriteIndex >= static_cast<int>(all.size()))
+    throw RuntimeFailure(Failure::InvalidCall, QStringLiteral("SpriteCels(%1)").arg(SpriteIndex));
+  return all[SpriteIndex];
+}
+
+Timer& cSprite::timer() const {
+  auto& all = TheShotView().SpriteTimer;
+  if (SpriteIndex < 0 || SpriteIndex >= static_cast<int>(all.size()))
+    throw RuntimeFailure(Failure::InvalidCall, QStringLiteral("SpriteTimer(%1)").arg(SpriteIndex));
+  return *all[SpriteIndex];
+}
+
+// Called for every sprite of the shot on every refresh, so a strip is only loaded when it changes.
+void cSprite::SetCels(const QString& celSource, const QString& sound) {
+  if (celSource == m_celSource) return;
+  RetryWithCdPrompt([this] { Halt(); });
+  RetryWithCdPrompt([this, &celSource] {
+    cels().Picture = QPixmap::fromImage(LoadPicture(ResourcePath + QStringLiteral("Graphics\\") + celSource));
+  });
+  m_celSource = celSource;
+  RetryWithCdPrompt([this] {
+    PictureClip& strip = cels();
+    strip.Rows = 1;
+    strip.Cols = NumFrames;
+  });
+  m_sound = sound;
+  Rewind();
+}
+
+void cSprite::Go() {
+  FrameStep = Backwards ? -1 : 1;
+  Rewind();
+  Timer& frames = timer();
+  frames.setEnabled(true);
+  frames.setInterval(FrameDelay);
+  if (!m_sound.isEmpty()) SoundMgr().PlayLocal(m_sound, SoundPan(), true);
+}
+
+void cSprite::Halt() {
+  FrameStep = 0;
+  timer().setEnabled(false);
+  if (!m_sound.isEmpty()) SoundMgr().StopLocal(m_sound);
+}
+
+void cSprite::Hide() { Halt(); }
+
+void cSprite::Refresh() {
+  Render();
+  if (Loop) Go();
+}
+
+// Cels are opaque rectangles, copied as they are.
+void cSprite::Render() { TheShotView().DisplayView->PaintPicture(cels().GraphicCell(m_currentFrame), X, Y); }
+
+void cSprite::SetFrame(i16 frame) { m_currentFrame = frame; }
+
+void cSprite::NextFrame() {
+  Render();
+  m_currentFrame = addI16(m_currentFrame, FrameStep);
+  const bool ranOut = m_currentFrame == NumFrames || m_currentFrame == -1;
+  if (!ranOut) return;
+  if (!Loop) Halt();
+  Rewind();
+}
+
+// A run starts at its first cel, and a halted sprite rests on its last one: a one-shot animation
+// holds its end picture, and a sprite that has just been given a strip shows its end state until it
+// is started. Still sprites get their resting picture from this; it must stay so.
+void cSprite::Rewind() {
+  const bool running = FrameStep != 0;
+  const bool atLastCel = running == Backwards;
+  m_currentFrame = atLastCel ? subI16(NumFrames, 1) : 0;
+}
+
+i16 cSprite::SoundPan() const {
+  const int width = TheShotView().DisplayView->width();
+  if (width == 0) throw RuntimeFailure(Failure::DivisionByZero, QStringLiteral("sound pan of sprite %1").arg(Name));
+  return CInt(static_cast<double>(X) / width * -10000 + 5000);
+}
+
+}  // namespace fh

@@ -1,0 +1,226 @@
+#include "mainview/ElapsedTimeText.h"
+#include "mainview/ShotView.h"
+#include "platform/Failure.h"
+#include "platform/ImagePair.h"
+#include "platform/PictureBox.h"
+#include "startup/Globals.h"
+#include "world/cShot.h"
+
+#include "ScriptedUi.h"
+#include "TempFolder.h"
+
+#include <QGuiApplication>
+#include <QLabel>
+#include <QPushButton>
+#include <QScreen>
+
+#include <gtest/gtest.h>
+
+namespace fh::test {
+namespace {
+
+const QString kStagedResources = QStringLiteral(FH_STAGE_DIR "/resources/");
+
+// Each test loads the main window afresh on the staged resource tree.
+class MainView : public testing::Test {
+ protected:
+  void SetUp() override {
+    UnloadShotView();
+    ResourcePath = kStagedResources;
+    UserHasWonGame = false;
+    ModalOpen = false;
+    CurrentShot.reset();
+  }
+  void TearDown() override {
+    UnloadShotView();
+    CurrentShot.reset();
+  }
+};
+
+QImage surface(const ShotView& view) { return view.DisplayView->Image().toImage(); }
+
+TEST_F(MainView, TheFrameStandsInTheMiddleOfTheScreenWithItsControlsInPlace) {
+  ShotView& view = TheShotView();
+  const QRect screen = QGuiApplication::primaryScreen()->geometry();
+  EXPECT_EQ(view.geometry(), screen);
+  const QPoint corner((screen.width() - 640) / 2, (screen.height() - 480) / 2);
+  EXPECT_EQ(view.framePosition(), corner);
+  EXPECT_EQ(view.BackPlane->size(), QSize(640, 480));
+  EXPECT_EQ(view.DisplayView->geometry(), QRect(corner + QPoint(4, 48), QSize(632, 390)));
+  EXPECT_EQ(view.Backdrop->geometry(), view.DisplayView->geometry());
+  EXPECT_EQ(view.Score->pos(), corner + QPoint(240, 31));
+  EXPECT_EQ(view.ElapsedTimeView->pos(), corner + QPoint(134, 16));
+  EXPECT_EQ(view.TextWindow->geometry(), QRect(corner + QPoint(86, 442), QSize(468, 30)));
+  EXPECT_EQ(view.btnExit->geometry(), QRect(corner + QPoint(582, 6), QSize(48, 34)));
+  EXPECT_EQ(view.btnRight->geometry(), QRect(corner + QPoint(579, 440), QSize(61, 40)));
+  EXPECT_TRUE(view.btnStereo->upVisible());
+  EXPECT_FALSE(view.btnStereo->downVisible());
+  EXPECT_EQ(view.btnShotEdit->pos(), corner + QPoint(0, 25));
+  EXPECT_EQ(view.Save->pos(), corner + QPoint(65, 0));
+  EXPECT_FALSE(view.Backdrop->isVisibleTo(&view));
+  EXPECT_EQ(GameMode, 1);
+  EXPECT_EQ(view.MeterTimer.Interval(), 0);  // no score yet, so the meter doesn't turn
+  EXPECT_TRUE(view.MeterTimer.Enabled());
+  EXPECT_EQ(view.Score->text(), QStringLiteral("100"));
+  EXPECT_EQ(view.ElapsedTimeView->text(), QStringLiteral("0:00:00"));
+}
+
+TEST_F(MainView, AMissingResourceTreeAsksForTheFolderFirstAndForTheCdAfter) {
+  TempFolder empty;
+  ResourcePath = empty.path() + QStringLiteral("/");
+  ScriptedUi ui;
+  // The player names a folder that is just as empty, then puts the CD in.
+  ui.queueModal([](QWidget& form) { form.hide(); });
+  ui.queueAnswer(Answer::Ok);
+  ui.queueModal([](QWidget& form) { form.hide(); });
+  int asked = 0;
+  ui.onMessageBox = [&asked](const QString&) {
+    if (++asked == 1) ResourcePath = kStagedResources;
+  };
+  TheShotView();
+  ASSERT_GE(ui.shown().size(), 2u);
+  EXPECT_EQ(ui.shown()[0].kind, Shown::Kind::Modal);
+  EXPECT_EQ(ui.shown()[1].text, QStringLiteral("Please insert the Fernhollow Game CD into the CD-ROM drive."));
+  EXPECT_EQ(ui.shown()[1].buttons, Buttons::OkCancel);
+  EXPECT_FALSE(TheShotView().BackPlane->pixmap().isNull());
+}
+
+TEST_F(MainView, CursorsAboveAHundredAreTheCustomPointer) {
+  ShotView& view = TheShotView();
+  view.SetCursor(11);
+  EXPECT_EQ(view.DisplayView->MousePointer(), 11);
+  EXPECT_EQ(view.DisplayView->cursor().shape(), Qt::WaitCursor);
+  view.SetCursor(100);
+  EXPECT_EQ(view.DisplayView->MousePointer(), 100);
+  view.SetCursor(103);
+  EXPECT_EQ(view.DisplayView->MousePointer(), 99);
+  EXPECT_EQ(view.DisplayView->cursor().shape(), Qt::ArrowCursor);
+}
+
+TEST_F(MainView, SpriteSlotsAreHandedOutFromZeroAndAllGivenBack) {
+  ShotView& view = TheShotView();
+  EXPECT_EQ(view.AddSprite(), 0);
+  EXPECT_EQ(view.SpriteTimer.size(), 1u);  // slot 0 exists from the start
+  EXPECT_EQ(view.AddSprite(), 1);
+  EXPECT_EQ(view.AddSprite(), 2);
+  EXPECT_EQ(view.SpriteTimer.size(), 3u);
+  EXPECT_FALSE(view.SpriteTimer[2]->Enabled());
+  view.SpriteTimer[0]->setInterval(100);
+  view.SpriteTimer[0]->setEnabled(true);
+  view.ClearSprites();
+  EXPECT_FALSE(view.SpriteTimer[0]->Enabled());
+  EXPECT_EQ(view.SpriteTimer.size(), 1u);
+  EXPECT_EQ(view.AddSprite(), 0);
+}
+
+TEST_F(MainView, TheBackdropLoadsOnlyWhenItsNameChangesAndForcingWipesTheSprites) {
+  ShotView& view = TheShotView();
+  view.SetBackdrop(QStringLiteral("Kitchen.bmp"), false);
+  EXPECT_EQ(view.CurrentBackdrop(), QStringLiteral("Kitchen.bmp"));
+  const QImage kitchen = surface(view);
+  ASSERT_EQ(kitchen.size(), QSize(632, 390));
+
+  QPixmap cel(10, 10);
+  cel.fill(Qt::magenta);
+  view.DisplayView->PaintPicture(cel, 20, 30);
+  view.SetBackdrop(QStringLiteral("Kitchen.bmp"), false);
+  EXPECT_EQ(surface(view).pixel(25, 35), QColor(Qt::magenta).rgb());  // nothing happened
+  view.SetBackdrop(QStringLiteral("Kitchen.bmp"), true);
+  EXPECT_EQ(surface(view), kitchen);
+
+  // Another case is another name: loaded again (and found, as names are case-blind on disk).
+  view.SetBackdrop(QStringLiteral("KITCHEN.BMP"), false);
+  EXPECT_EQ(view.CurrentBackdrop(), QStringLiteral("KITCHEN.BMP"));
+  view.SetBackdrop(QStringLiteral("Hall.bmp"), false);
+  EXPECT_NE(surface(view), kitchen);
+}
+
+TEST_F(MainView, AMissingBackdropAsksForTheCdUntilItLoadsAndCancelOpensTheSetup) {
+  ShotView& view = TheShotView();
+  ScriptedUi ui;
+  ui.queueAnswer(Answer::Ok);
+  ui.queueAnswer(Answer::Cancel);
+  ui.queueModal([](QWidget& form) {
+    ResourcePath = kStagedResources;
+    form.hide();
+  });
+  TempFolder empty;
+  ResourcePath = empty.path() + QStringLiteral("/");
+  view.SetBackdrop(QStringLiteral("Garden.bmp"), false);
+  const std::vector<Shown> messages = ui.messageBoxes();
+  ASSERT_EQ(messages.size(), 2u);
+  EXPECT_EQ(messages[0].text, QStringLiteral("Please insert the Fernhollow Game CD into the CD-ROM drive."));
+  EXPECT_EQ(ui.shown().back().kind, Shown::Kind::Modal);
+  EXPECT_EQ(view.CurrentBackdrop(), QStringLiteral("Garden.bmp"));
+  EXPECT_FALSE(surface(view).isNull());
+}
+
+TEST_F(MainView, TheScoreSetsTheMetersSpeedAndAWinSaysWise) {
+  ShotView& view = TheShotView();
+  const std::pair<i16, int> intervals[] = {{100, 133}, {50, 550}, {1, 958}, {110, 50}, {40, 633}};
+  for (const auto& [score, interval] : intervals) {
+    view.SetScore(score);
+    EXPECT_EQ(view.MeterTimer.Interval(), interval) << score;
+    EXPECT_EQ(CurrentScore, score);
+    EXPECT_EQ(view.Score->text(), QString::number(score));
+  }
+  UserHasWonGame = true;
+  view.SetScore(37);
+  EXPECT_EQ(view.Score->text(), QStringLiteral("wise!"));
+  EXPECT_EQ(view.MeterTimer.Interval(), 3000);
+  EXPECT_EQ(CurrentScore, 1);
+}
+
+TEST_F(MainView, TheMeterTurnsCellByCellOnlyOnceTheWindowHasBeenActivated) {
+  ShotView& view = TheShotView();
+  view.SetScore(100);
+  QCoreApplication::processEvents();
+  EXPECT_FALSE(view.WindowActivated());
+  view.MeterTimer.onTick();
+  EXPECT_EQ(view.MeterFrame(), 0);
+
+  view.showView();
+  for (int i = 0; i < 50 && !view.WindowActivated(); ++i) QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
+  ASSERT_TRUE(view.WindowActivated());
+  for (int tick = 1; tick <= 24; ++tick) {
+    view.MeterTimer.onTick();
+    EXPECT_EQ(view.MeterFrame(), tick % 24);
+  }
+  view.hide();
+}
+
+TEST_F(MainView, PlayTimeCountsOnlyInTimedShotsWithNoBoxOpenAndBeforeTheWin) {
+  ShotView& view = TheShotView();
+  GameElapsedTime = 0;
+  view.ElapsedTime_Timer();  // no shot: nothing counts, nothing is shown
+  EXPECT_EQ(GameElapsedTime, 0.0f);
+
+  CurrentShot = std::make_shared<cShot>();
+  CurrentShot->GoElapsedTime = true;
+  for (int second = 0; second < 61; ++second) view.ElapsedTime_Timer();
+  EXPECT_EQ(view.ElapsedTimeView->text(), QStringLiteral("0:01:01"));
+  ModalOpen = true;
+  view.ElapsedTime_Timer();
+  ModalOpen = false;
+  CurrentShot->GoElapsedTime = false;
+  view.ElapsedTime_Timer();
+  CurrentShot->GoElapsedTime = true;
+  UserHasWonGame = true;
+  view.ElapsedTime_Timer();
+  EXPECT_EQ(view.ElapsedTimeView->text(), QStringLiteral("0:01:01"));
+  UserHasWonGame = false;
+  view.ElapsedTime_Timer();
+  EXPECT_EQ(view.ElapsedTimeView->text(), QStringLiteral("0:01:02"));
+}
+
+TEST(ElapsedTimeText, HoursHaveNoLeadingZeroAndTheClockWrapsAtADay) {
+  EXPECT_EQ(ElapsedTimeText(0), QStringLiteral("0:00:00"));
+  EXPECT_EQ(ElapsedTimeText(static_cast<float>(5.0 / 24)), QStringLiteral("5:00:00"));
+  // A count a hair short of a second shows that second.
+  EXPECT_EQ(ElapsedTimeText(static_cast<float>((61 - 0.001) / 86400)), QStringLiteral("0:01:01"));
+  EXPECT_EQ(ElapsedTimeText(static_cast<float>(13.0 / 24 + 7.0 / 1440 + 9.0 / 86400)), QStringLiteral("13:07:09"));
+  EXPECT_EQ(ElapsedTimeText(1.0f + 2.0f / 86400.0f), QStringLiteral("0:00:02"));
+}
+
+}  // namespace
+}  // namespace fh::test

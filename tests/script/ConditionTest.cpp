@@ -1,0 +1,52 @@
+#include "platform/Failure.h"
+#include "script/Condition.h"
+#include "startup/Globals.h"
+#include "world/cSet.h"
+
+#include <gtest/gtest.h>
+
+namespace fh::test {
+namespace {
+
+// A tap at state 1, a lamp holding a bulb of two words and an empty vase; no database needed.
+class Conditions : public testing::Test {
+ protected:
+  void SetUp() override {
+    CurrentSet = std::make_shared<cSet>();
+    for (const auto& [name, state, object] : {std::tuple{"tap", 1, ""}, {"lamp", 0, "LED Bulb"}, {"vase", 0, ""}})
+      CurrentSet->Containers.emplace(QString::fromLatin1(name),
+                                     std::make_shared<cContainer>(cContainer{.CurrentObject = QString::fromLatin1(object),
+                                                                             .CurrentState = static_cast<i16>(state)}));
+  }
+  void TearDown() override { CurrentSet.reset(); }
+  static bool holds(const char* conditions) { return EvalConditions(QString::fromLatin1(conditions)) == kTrue; }
+};
+
+TEST_F(Conditions, StateComparesTheNumberTheValueStartsWith) {
+  EXPECT_TRUE(holds("TAP state 1st"));
+  EXPECT_FALSE(holds("tap state 0"));
+  EXPECT_TRUE(holds("vase state none"));
+  EXPECT_TRUE(holds("vase state "));
+  EXPECT_TRUE(holds("tap STATE 1"));
+  EXPECT_FALSE(holds("tap is 1"));
+}
+
+// Script words carry no blanks: only the object loses its blanks, never the value.
+TEST_F(Conditions, HoldsComparesTheObjectWithoutBlanksInAnyCase) {
+  EXPECT_TRUE(holds("lamp Holds LEDBULB"));
+  EXPECT_FALSE(holds("lamp holds led bulb"));
+  EXPECT_FALSE(holds("lamp !holds ledbulb"));
+  EXPECT_TRUE(holds("lamp !HOLDS oldbulb"));
+  EXPECT_TRUE(holds("vase holds "));
+}
+
+TEST_F(Conditions, EveryLineMustHoldAndTheFirstFalseOneEndsTheTest) {
+  EXPECT_TRUE(holds("tap state 1\r\nlamp holds ledbulb\r\n"));  // no empty line after the last line end
+  EXPECT_FALSE(holds("tap state 1\r\nlamp holds oldbulb"));
+  EXPECT_FALSE(holds("tap state 0\r\nsofa state 1"));  // the unknown sofa is never looked up
+  for (const char* broken : {"", "tap", "tap state", "tap state 1\r\nsofa state 1"})
+    EXPECT_THROW(holds(broken), RuntimeFailure) << broken;
+}
+
+}  // namespace
+}  // namespace fh::test

@@ -1,0 +1,84 @@
+#include "LiveWorld.h"
+
+#include "platform/Failure.h"
+#include "world/SetFile.h"
+#include "world/cSet.h"
+
+namespace fh::test {
+namespace {
+
+using LiveSet = LiveWorld;
+
+TEST_F(LiveSet, LoadSetBuildsTheAssetsAndShowsTheShotOfTheUsersRecord) {
+  cSet house = makeSet(QStringLiteral("House"), {makeShot(QStringLiteral("Porch")), makeShot(QStringLiteral("Hall"))});
+  house.nCurrentShot = 0;
+  data.write(QStringLiteral("House.set"), savedBytes(house));
+  CurrentShotIndex = 1;
+  LoadSet(QStringLiteral("HOUSE.SET"));
+  EXPECT_EQ(CurrentShot, CurrentSet->Shot(1));
+  EXPECT_EQ(text(), QStringLiteral("The Hall"));
+  EXPECT_EQ(view().CurrentBackdrop(), QStringLiteral("Hall.bmp"));
+
+  // Sprites in the query's order, each at its own place on the main view; the caller lowers names.
+  ASSERT_EQ(CurrentSet->nNumSprites, 4);
+  EXPECT_EQ(CurrentSet->GetSprite(3)->SpriteIndex, 3);
+  EXPECT_FALSE(CurrentSet->GetSprite(4));
+  EXPECT_EQ(CurrentSet->GetSpriteByName(QStringLiteral("glow")), CurrentSet->GetSprite(2));
+  EXPECT_FALSE(CurrentSet->GetSpriteByName(QStringLiteral("Glow")));
+
+  // Ada's containers, in any case; she has no row for Radio, which keeps the empty defaults.
+  EXPECT_EQ(CurrentSet->GetContainer(QStringLiteral("TAP")).CurrentState, 1);
+  EXPECT_EQ(CurrentSet->GetContainer(QStringLiteral("bulb")).CurrentObject, QStringLiteral("Old Bulb"));
+  EXPECT_EQ(CurrentSet->GetContainer(QStringLiteral("radio")).CurrentObject, QString());
+  EXPECT_THROW(CurrentSet->GetContainer(QStringLiteral("Sofa")), RuntimeFailure);
+}
+
+TEST_F(LiveSet, AnEndingSetTakesItsSpritesAndCurrentShotWithIt) {
+  LoadSet(QStringLiteral("Small.set"));
+  LoadSet(QStringLiteral("Small.set"));
+  EXPECT_EQ(view().nSpriteControls, 4);
+  CurrentSet.reset();
+  EXPECT_FALSE(CurrentShot);
+  EXPECT_EQ(view().nSpriteControls, 0);
+}
+
+TEST_F(LiveSet, ShowShotRecordsThePositionAtOnceAndMinusOneDoesNothing) {
+  LoadSet(QStringLiteral("Small.set"));
+  CurrentSet->ShowShot(1);
+  EXPECT_EQ(stored(QStringLiteral("Current Shot")), 1);
+  view().TextWindow->setText(QStringLiteral("untouched"));
+  store(QStringLiteral("Current Shot"), 0);
+  CurrentSet->ShowShot(-1);
+  EXPECT_EQ(CurrentShot, CurrentSet->Shot(1));
+  EXPECT_EQ(stored(QStringLiteral("Current Shot")), 0);
+  EXPECT_EQ(text(), QStringLiteral("untouched"));
+}
+
+// Attic has no row in Shots, no backdrop, and a sprite without cel sources: all are survived.
+TEST_F(LiveSet, AShotWithoutRowsIsToldAndKeepsTheOldPicture) {
+  LoadSet(QStringLiteral("Small.set"));
+  CurrentSet->ShowShot(1);
+  CurrentSet->ShowShot(2);
+  EXPECT_EQ(text(), QStringLiteral("Attic"));
+  EXPECT_EQ(messages(), QStringList({QStringLiteral("Can't find any backdrops for Attic check VisualRegistry and try again."),
+                                     QStringLiteral("Sprite Ghost does not exist!")}));
+  EXPECT_EQ(view().CurrentBackdrop(), QStringLiteral("Hall.bmp"));
+}
+
+TEST(SetShots, DeleteShiftsTheRestDownAndTheLastOneClearsTheCurrentShot) {
+  cSet set = makeSet(QStringLiteral("S"), {makeShot(QStringLiteral("A")), makeShot(QStringLiteral("B"))});
+  EXPECT_EQ(set.AddShot(QStringLiteral("C")), 2);
+  set.nCurrentShot = 2;
+  CurrentShot = set.Shot(2);
+  set.DeleteShot(0);
+  EXPECT_EQ(set.Shot(1)->sName, QStringLiteral("C"));
+  EXPECT_EQ(set.nCurrentShot, 2);
+  set.DeleteShot(1);
+  EXPECT_TRUE(CurrentShot);
+  set.DeleteShot(0);
+  EXPECT_EQ(set.nNumShots, 0);
+  EXPECT_FALSE(CurrentShot);
+}
+
+}  // namespace
+}  // namespace fh::test

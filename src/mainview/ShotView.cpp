@@ -14,6 +14,7 @@
 #include "sound/cSoundMgr.h"
 #include "startup/FixedPictures.h"
 #include "startup/Globals.h"
+#include "startup/Session.h"
 #include "startup/frmSetup.h"
 #include "world/cSet.h"
 #include "world/cShot.h"
@@ -173,6 +174,8 @@ void ShotView::loadWindow() {
     btnLeft->move(corner + QPoint(7, 440));
     btnRight->move(corner + QPoint(579, 440));
     for (ImagePair* button : {btnStereo, btnComputer, btnExit, btnLeft, btnRight}) button->setUpVisible(true);
+    // Not yet: the other four buttons' actions arrive with the input of the next issue.
+    btnExit->onAction = [] { btnExit_Action(); };
   });
   steps.run([this] {
     MeterAnim.Picture = WindowPixmap(QStringLiteral("Meter"));
@@ -194,6 +197,14 @@ void ShotView::loadWindow() {
     MMControl1.DeviceType = QStringLiteral("Sequencer");
   });
   m_meterView->raise();
+}
+
+void ShotView::btnExit_Action() {
+  if (ActiveComputerScreen != 0) {
+    MsgBox(QStringLiteral("You must exit the computer before you can exit the game..."));
+    return;
+  }
+  EndGame();
 }
 
 QPoint ShotView::framePosition() const { return BackPlane->pos(); }

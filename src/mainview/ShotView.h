@@ -69,6 +69,8 @@ class ShotView : public QWidget {
   void ClearSprites();
   void SetBackdrop(const QString& name, bool force);
   void ElapsedTime_Timer();
+  // What Exit does: ends the session, unless a computer screen is open.
+  static void btnExit_Action();
 
   // Shows the window over everything and makes it the active one.
   void showView();

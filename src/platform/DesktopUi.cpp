@@ -61,6 +61,10 @@ void DesktopUi::showModal(QWidget& form) {
   HideWatcher watcher(form, loop);
   QObject::connect(&form, &QObject::destroyed, &loop, &QEventLoop::quit);
   form.show();
+  // A window shown again keeps its old place in the stack, which may be under a full-screen window
+  // raised since; without a window manager nobody else brings it to the front.
+  form.raise();
+  form.activateWindow();
   if (guard && form.isVisible()) loop.exec(QEventLoop::DialogExec);
   if (guard) {
     form.removeEventFilter(&watcher);

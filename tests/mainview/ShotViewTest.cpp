@@ -213,6 +213,20 @@ TEST_F(MainView, PlayTimeCountsOnlyInTimedShotsWithNoBoxOpenAndBeforeTheWin) {
   EXPECT_EQ(view.ElapsedTimeView->text(), QStringLiteral("0:01:02"));
 }
 
+TEST_F(MainView, ExitRefusesWhileAComputerScreenIsOpen) {
+  ShotView& view = TheShotView();
+  ScriptedUi ui;
+  ActiveComputerScreen = 2;
+  view.btnExit->mouseDown();
+  EXPECT_TRUE(view.btnExit->downVisible());
+  view.btnExit->mouseUp();
+  ActiveComputerScreen = 0;
+  ASSERT_EQ(ui.messageBoxes().size(), 1u);
+  EXPECT_EQ(ui.messageBoxes()[0].text, QStringLiteral("You must exit the computer before you can exit the game..."));
+  EXPECT_TRUE(view.btnExit->upVisible());
+  EXPECT_EQ(ui.yields(), 2);
+}
+
 TEST(ElapsedTimeText, HoursHaveNoLeadingZeroAndTheClockWrapsAtADay) {
   EXPECT_EQ(ElapsedTimeText(0), QStringLiteral("0:00:00"));
   EXPECT_EQ(ElapsedTimeText(static_cast<float>(5.0 / 24)), QStringLiteral("5:00:00"));

@@ -4,7 +4,6 @@
 #include "platform/Ui.h"
 #include "script/Dialogs.h"
 #include "startup/Globals.h"
-#include "world/GameDB.h"
 #include "world/cContainer.h"
 #include "world/cSet.h"
 #include "world/cShot.h"

@@ -4,7 +4,6 @@
 #include "platform/Database.h"
 #include "platform/Ui.h"
 #include "startup/Globals.h"
-#include "world/GameDB.h"
 
 #include <QLabel>
 

@@ -1,6 +1,7 @@
 #include "startup/Globals.h"
 
 #include "platform/Database.h"
+#include "platform/Failure.h"
 #include "sound/cSoundMgr.h"
 #include "world/cSet.h"
 #include "world/cShot.h"
@@ -12,6 +13,11 @@ QString ResourcePath;
 QString MasterPassword;
 
 std::shared_ptr<Database> GameDB;
+
+Database& RequireGameDB() {
+  if (!GameDB) throw RuntimeFailure(Failure::ObjectNotSet, QStringLiteral("GameDB"));
+  return *GameDB;
+}
 std::int32_t CurrentUserID = 0;
 QString CurrentUserName;
 i16 CurrentShotIndex = 0;

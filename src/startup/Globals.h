@@ -23,6 +23,8 @@ extern QString MasterPassword;
 
 // The open game database, from Start to Exit.
 extern std::shared_ptr<Database> GameDB;
+// GameDB itself; reaching for it before the game has opened it is "Object variable not set".
+Database& RequireGameDB();
 extern std::int32_t CurrentUserID;
 extern QString CurrentUserName;
 extern i16 CurrentShotIndex;

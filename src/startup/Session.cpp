@@ -9,7 +9,6 @@
 #include "startup/Globals.h"
 #include "startup/Splash.h"
 #include "startup/frmLogin.h"
-#include "world/GameDB.h"
 #include "world/SetFile.h"
 #include "world/cSet.h"
 

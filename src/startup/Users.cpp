@@ -2,7 +2,7 @@
 
 #include "platform/Database.h"
 #include "platform/Ui.h"
-#include "world/GameDB.h"
+#include "startup/Globals.h"
 
 namespace fh {
 

@@ -12,7 +12,6 @@
 #include "startup/Splash.h"
 #include "startup/Users.h"
 #include "startup/frmNewUser.h"
-#include "world/GameDB.h"
 
 #include <QKeyEvent>
 #include <QLabel>

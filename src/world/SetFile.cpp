@@ -27,8 +27,7 @@ void LoadSet(const QString& fileName) {
 // Every saved shot has its row in table Shots; a new row gets only its Name, so its friendly name
 // stays the table's default until an author writes one.
 void KeepShotsRowInLine(const cShot& shot) {
-  if (!GameDB) throw RuntimeFailure(Failure::ObjectNotSet, QStringLiteral("GameDB"));
-  Recordset row = GameDB->OpenRecordset(QStringLiteral("SELECT * FROM Shots WHERE Name = ?"), {shot.sName});
+  Recordset row = RequireGameDB().OpenRecordset(QStringLiteral("SELECT * FROM Shots WHERE Name = ?"), {shot.sName});
   if (row.IsEOF()) row.AddNew();
   else row.Edit();
   row.SetField(QStringLiteral("Name"), shot.sName);

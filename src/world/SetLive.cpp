@@ -1,9 +1,10 @@
 #include "world/cSet.h"
 
 #include "mainview/ShotView.h"
+#include "platform/Database.h"
 #include "platform/Failure.h"
 #include "script/Dialogs.h"
-#include "world/GameDB.h"
+#include "startup/Globals.h"
 
 #include <algorithm>
 

@@ -1,12 +1,13 @@
 #include "world/cShot.h"
 
 #include "mainview/ShotView.h"
+#include "platform/Database.h"
 #include "platform/Ui.h"
 #include "script/Condition.h"
 #include "startup/Session.h"
-#include "world/GameDB.h"
 #include "world/Score.h"
 #include "world/cSet.h"
+#include "startup/Globals.h"
 
 // What a shot looks like for this user: computed from the database each time it is shown or changed.
 namespace fh {

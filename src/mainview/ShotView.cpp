@@ -41,6 +41,8 @@ const QSize kShotSize(632, 390);
 const QPoint kMeterPlace(240, 0);
 constexpr int kMeterCells = 24;
 
+i16 wholePixels(qreal position) { return toI16(static_cast<long long>(std::nearbyint(position))); }
+
 std::unique_ptr<ShotView>& theView() {
   static std::unique_ptr<ShotView> view;
   return view;
@@ -115,6 +117,16 @@ ShotView::ShotView() : MMControl1(MusicDevice()) {
   Backdrop->hide();
   DisplayView = new PictureBox(this);
   DisplayView->setObjectName(QStringLiteral("DisplayView"));
+  // The picture's own roads in: a left press and every move. Its releases and other buttons are
+  // not the game's business.
+  DisplayView->onMouseDown = [this](Qt::MouseButton button, QPointF at) {
+    if (button == Qt::LeftButton) HandleMouse(message::kLeftDown, wholePixels(at.x()), wholePixels(at.y()));
+  };
+  DisplayView->onMouseMove = [this](QPointF at) { HandleMouse(message::kMouseMove, wholePixels(at.x()), wholePixels(at.y())); };
+  VideoSys = new PictureBox(this);
+  VideoSys->setObjectName(QStringLiteral("VideoSys"));
+  VideoSys->setGeometry(142, 202, 105, 72);
+  VideoSys->hide();
   ElapsedTimeView = displayLabel(this, QStringLiteral("ElapsedTimeView"), QStringLiteral("0:00:00"), QColor(255, 224, 192));
   ElapsedTimeView->resize(50, 15);
   Score = displayLabel(this, QStringLiteral("Score"), QStringLiteral("100"), QColor(255, 224, 192));
@@ -136,6 +148,7 @@ ShotView::ShotView() : MMControl1(MusicDevice()) {
   ElapsedTime.onTick = [this] { ElapsedTime_Timer(); };
   ElapsedTime.setEnabled(true);
   GameClock.setInterval(75);
+  GameClock.onTick = [this] { GameClock_Timer(); };
   MeterTimer.onTick = [this] { meterTick(); };
 }
 
@@ -174,8 +187,11 @@ void ShotView::loadWindow() {
     btnLeft->move(corner + QPoint(7, 440));
     btnRight->move(corner + QPoint(579, 440));
     for (ImagePair* button : {btnStereo, btnComputer, btnExit, btnLeft, btnRight}) button->setUpVisible(true);
-    // Not yet: the other four buttons' actions arrive with the input of the next issue.
+    btnStereo->onAction = [this] { btnStereo_Action(); };
+    btnComputer->onAction = [this] { btnComputer_Action(); };
     btnExit->onAction = [] { btnExit_Action(); };
+    btnLeft->onAction = [this] { btnLeft_Action(); };
+    btnRight->onAction = [this] { btnRight_Action(); };
   });
   steps.run([this] {
     MeterAnim.Picture = WindowPixmap(QStringLiteral("Meter"));
@@ -189,7 +205,10 @@ void ShotView::loadWindow() {
     Save->move(corner + QPoint(btnSetForm->width(), 0));
   });
   steps.run([this] { TextWindow->setGeometry(QRect(framePosition() + QPoint(86, 442), QSize(468, 30))); });
-  // Not yet: the window-level mouse hook starts reporting here, with the input of the next issue.
+  steps.run([this] {
+    MsgBlaster1.onMessage = [this](int message, std::uint32_t param) { MsgBlaster1_Message(message, param); };
+    MsgBlaster1.setWindow(this);
+  });
   steps.run([this] {
     MMControl1.Notify = false;
     MMControl1.Wait = true;
@@ -199,20 +218,7 @@ void ShotView::loadWindow() {
   m_meterView->raise();
 }
 
-void ShotView::btnExit_Action() {
-  if (ActiveComputerScreen != 0) {
-    MsgBox(QStringLiteral("You must exit the computer before you can exit the game..."));
-    return;
-  }
-  EndGame();
-}
-
 QPoint ShotView::framePosition() const { return BackPlane->pos(); }
-
-void ShotView::StopVideo() {
-  SoundMgr().Enable();
-  m_videoRunning = false;
-}
 
 void ShotView::SetScore(i16 score) {
   if (UserHasWonGame) {
@@ -291,8 +297,7 @@ void ShotView::meterTick() {
 }
 
 void ShotView::spriteTick(i16 index) {
-  if (!CurrentSet) throw RuntimeFailure(Failure::ObjectNotSet, QStringLiteral("CurrentSet"));
-  const auto sprite = CurrentSet->GetSprite(index);
+  const auto sprite = RequireCurrentSet().GetSprite(index);
   if (!sprite) throw RuntimeFailure(Failure::ObjectNotSet, QStringLiteral("sprite %1").arg(index));
   sprite->NextFrame();
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/MessageHook.h"
 #include "platform/PictureClip.h"
 #include "platform/Timer.h"
 #include "platform/Values.h"
@@ -10,6 +11,7 @@
 #include <memory>
 #include <vector>
 
+class QKeyEvent;
 class QLabel;
 class QPushButton;
 
@@ -49,6 +51,7 @@ class ShotView : public QWidget {
   QPushButton* btnSetForm = nullptr;
   QPushButton* btnShotEdit = nullptr;
   QPushButton* Save = nullptr;
+  PictureBox* VideoSys = nullptr;  // set aside for films; nothing shows it
 
   Timer ElapsedTime{"elapsed time"};
   Timer GameClock{"game clock"};
@@ -60,8 +63,13 @@ class ShotView : public QWidget {
 
   // The music device.
   MediaDevice& MMControl1;
+  // Reports the mouse over the frame and its buttons, which DisplayView doesn't see.
+  MessageHook MsgBlaster1;
 
   // Public operations.
+  // Films are switched off: this fails at once, before it looks at anything, and the failure ends the
+  // script that asked for the film. The television's callers are written for that.
+  void PlayVideo(i16 x, i16 y, const QString& fileName);
   void StopVideo();
   void SetScore(i16 score);
   void SetCursor(i16 number);
@@ -69,6 +77,9 @@ class ShotView : public QWidget {
   void ClearSprites();
   void SetBackdrop(const QString& name, bool force);
   void ElapsedTime_Timer();
+  // The hover test, 13 times a second: lights the hotspot under the pointer and puts out the one it
+  // left. It has its own silent net: a failure only forgets the lit hotspot.
+  void GameClock_Timer();
   // What Exit does: ends the session, unless a computer screen is open.
   static void btnExit_Action();
 
@@ -80,9 +91,17 @@ class ShotView : public QWidget {
   i16 MeterFrame() const { return m_meterFrame; }
   bool WindowActivated() const { return m_windowActivated; }
   const QString& CurrentBackdrop() const { return m_currentBackdrop; }
+  const QString& ShotBeforeComputer() const { return m_shotBeforeComputer; }
+  bool VideoRunning() const { return m_videoRunning; }
+  // The input as the game sees it: the pointer in pixels of DisplayView, and the buttons.
+  i16 MouseX() const { return m_mouseX; }
+  i16 MouseY() const { return m_mouseY; }
+  bool LeftDown() const { return m_leftDown; }
+  bool RightDown() const { return m_rightDown; }
 
  protected:
   bool event(QEvent* event) override;
+  void keyPressEvent(QKeyEvent* event) override;
 
  private:
   friend ShotView& TheShotView();
@@ -90,12 +109,28 @@ class ShotView : public QWidget {
   void loadBackdrop(const QString& name);
   void meterTick();
   void spriteTick(i16 index);
+  // Every mouse message of the window comes here, from DisplayView and from the window's hook, with
+  // the position in pixels of DisplayView. Its own silent net ends a clicked script that fails.
+  void HandleMouse(int message, i16 x, i16 y);
+  void handleMouseUnguarded(int message, i16 x, i16 y);
+  void MsgBlaster1_Message(int message, std::uint32_t param);
+  void gameClockTick();
+  void editDragStep(i16 x, i16 y);
+  void btnLeft_Action();
+  void btnRight_Action();
+  void btnComputer_Action();
+  void btnStereo_Action();
+  void VideoStatusChanged(const QString& status);
 
   QString m_currentBackdrop;
   QString m_shotBeforeComputer;
   i16 m_meterFrame = 0;
   bool m_windowActivated = false;
   bool m_videoRunning = false;
+  i16 m_mouseX = 0;
+  i16 m_mouseY = 0;
+  bool m_leftDown = false;
+  bool m_rightDown = false;
   // Where the meter's cells are painted over the frame; hidden until the first tick paints one.
   QLabel* m_meterView = nullptr;
 };

@@ -56,15 +56,15 @@ void ImagePair::paintEvent(QPaintEvent*) {
   else if (m_upVisible) painter.drawPixmap(0, 0, m_up);
 }
 
-void ImagePair::mousePressEvent(QMouseEvent* event) {
-  if (event->button() != Qt::LeftButton) return;
-  m_pressed = true;
+// Any mouse button presses the button, and each release acts, whichever button it was.
+void ImagePair::mousePressEvent(QMouseEvent*) {
+  ++m_buttonsHeld;
   guarded("button press", [this] { mouseDown(); });
 }
 
-void ImagePair::mouseReleaseEvent(QMouseEvent* event) {
-  if (event->button() != Qt::LeftButton || !m_pressed) return;
-  m_pressed = false;
+void ImagePair::mouseReleaseEvent(QMouseEvent*) {
+  if (m_buttonsHeld == 0) return;
+  --m_buttonsHeld;
   guarded("button release", [this] { mouseUp(); });
 }
 

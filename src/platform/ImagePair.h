@@ -10,7 +10,7 @@ namespace fh {
 // The game's own push button: two pictures at one place, index 0 the button up and index 1 the
 // button down. A press shows the down picture and lets the window repaint; the release shows the up
 // picture, lets it repaint again, and then does the action, wherever the pointer has gone meanwhile.
-// A disabled pair takes no mouse events.
+// Any mouse button works it. A disabled pair takes no mouse events.
 class ImagePair : public QWidget {
  public:
   ImagePair(const QString& name, QWidget* parent);
@@ -40,7 +40,7 @@ class ImagePair : public QWidget {
   QPixmap m_down;
   bool m_upVisible = false;
   bool m_downVisible = false;
-  bool m_pressed = false;
+  int m_buttonsHeld = 0;  // pressed on this pair and not yet released
 };
 
 }  // namespace fh

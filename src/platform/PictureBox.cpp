@@ -1,5 +1,8 @@
 #include "platform/PictureBox.h"
 
+#include "platform/Guard.h"
+
+#include <QMouseEvent>
 #include <QPaintEvent>
 #include <QPainter>
 
@@ -37,6 +40,18 @@ void PictureBox::paintEvent(QPaintEvent* event) {
   QPainter painter(this);
   painter.fillRect(event->rect(), Qt::black);
   if (!m_image.isNull()) painter.drawPixmap(event->rect(), m_image, event->rect());
+}
+
+void PictureBox::mousePressEvent(QMouseEvent* event) {
+  if (!onMouseDown) return;
+  guarded("mouse down", [this, button = event->button(), position = event->position()] { onMouseDown(button, position); });
+}
+
+void PictureBox::mouseDoubleClickEvent(QMouseEvent*) {}
+
+void PictureBox::mouseMoveEvent(QMouseEvent* event) {
+  if (!onMouseMove) return;
+  guarded("mouse move", [this, position = event->position()] { onMouseMove(position); });
 }
 
 Qt::CursorShape standardPointer(int number) {

@@ -3,6 +3,8 @@
 #include <QPixmap>
 #include <QWidget>
 
+#include <functional>
+
 namespace fh {
 
 // A surface that pictures are painted on. Setting its picture wipes whatever was painted over the
@@ -18,6 +20,11 @@ class PictureBox : public QWidget {
   // Paints `picture` at (x, y) in plain copy mode.
   void PaintPicture(const QPixmap& picture, int x, int y);
 
+  // A press of any button, and every move, at the pointer's place on the surface. The second press
+  // of a double click is no press, and releases aren't reported at all.
+  std::function<void(Qt::MouseButton button, QPointF position)> onMouseDown;
+  std::function<void(QPointF position)> onMouseMove;
+
   int MousePointer() const { return m_mousePointer; }
   // One of the platform's standard pointers by number; 99 is the custom pointer, which, with no
   // picture given, is the default arrow, as is any number the platform doesn't know.
@@ -25,6 +32,9 @@ class PictureBox : public QWidget {
 
  protected:
   void paintEvent(QPaintEvent* event) override;
+  void mousePressEvent(QMouseEvent* event) override;
+  void mouseDoubleClickEvent(QMouseEvent* event) override;
+  void mouseMoveEvent(QMouseEvent* event) override;
 
  private:
   QPixmap m_picture;

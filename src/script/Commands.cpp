@@ -1,13 +1,28 @@
 #include "script/Commands.h"
 
+#include "mainview/ShotView.h"
+#include "platform/Failure.h"
+#include "script/ChoiceBoxes.h"
+#include "script/ComputerCommand.h"
 #include "script/Condition.h"
+#include "script/ContainerState.h"
+#include "script/Dialogs.h"
+#include "script/GotoShot.h"
 #include "script/ScriptWords.h"
+#include "script/Television.h"
+#include "sound/cSoundMgr.h"
 #include "startup/Globals.h"
+#include "world/SetFile.h"
+#include "world/cSet.h"
+#include "world/cShot.h"
 
 namespace fh {
 
-// Not yet: the computer's screens (open, close, print) by the sub-word in word 1.
-i16 DoComputer(const ScriptWords&) { return 0; }
+// "computer" with a sub-word; alone it does nothing.
+i16 DoComputer(const ScriptWords& words) {
+  ComputerCommand(words.word(1));
+  return 0;
+}
 
 // "if container keyword value": the three words joined by single blanks are the condition. A line
 // of three words has an empty value; with fewer, reading word 3 fails.
@@ -16,50 +31,102 @@ i16 DoIf(const ScriptWords& words) {
   return TestCondition(condition) == kTrue ? 0 : kSkipToEndif;
 }
 
-// Not yet: starts the sprite named in word 1.
-i16 DoAnimateSprite(const ScriptWords&) { return 0; }
+// A sprite name the set doesn't know does nothing, here and in `stopsprite`, without a word.
+i16 DoAnimateSprite(const ScriptWords& words) {
+  if (const std::shared_ptr<cSprite> sprite = RequireCurrentSet().GetSpriteByName(words.word(1))) sprite->Go();
+  return 0;
+}
 
-// Not yet: hides and halts the sprite named in word 1.
-i16 DoStopSprite(const ScriptWords&) { return 0; }
+i16 DoStopSprite(const ScriptWords& words) {
+  if (const std::shared_ptr<cSprite> sprite = RequireCurrentSet().GetSpriteByName(words.word(1))) sprite->Hide();
+  return 0;
+}
 
-// Not yet: sets a container to a state, refreshing the shot on "refresh".
-i16 DoSetContainer(const ScriptWords&) { return 0; }
+// "setcontainer name state [refresh]": a state that is no 16-bit number fails before anything changes.
+i16 DoSetContainer(const ScriptWords& words) {
+  const QString& name = words.word(1);
+  const i16 state = CInt(words.word(2));
+  SetContainer(name, state, words.word(3) == QLatin1StringView("refresh"));
+  return 0;
+}
 
-// Not yet: toggles a container, refreshing without the backdrop on "anim".
-i16 DoToggleContainer(const ScriptWords&) { return 0; }
+// "togglecontainer name [anim]": with "anim" the backdrop stays as it is, so that an animation can
+// show the change; only score and sprites are refreshed.
+i16 DoToggleContainer(const ScriptWords& words) {
+  const QString& name = words.word(1);
+  ToggleContainer(name, words.word(2) != QLatin1StringView("anim"));
+  return 0;
+}
 
-// Not yet: shows a text of the Dialogs table, or clears the text window for an empty name.
-i16 DoShowDialog(const ScriptWords&) { return 0; }
+i16 DoShowDialog(const ScriptWords& words) {
+  ShowDialog(words.word(1));
+  return 0;
+}
 
-// Not yet: shows words 1 and 2 as a free text, or the last one for "last".
-i16 DoShowDialogString(const ScriptWords&) { return 0; }
+// Two words at most: the rest of the line is lost, and all of it is lower case by now.
+i16 DoShowDialogString(const ScriptWords& words) {
+  const QString& first = words.word(1);
+  const QString& second = words.word(2);
+  ShowDialogString(second.isEmpty() ? first : first + u' ' + second);
+  return 0;
+}
 
-// Not yet: opens the info box named in word 1, modally.
-i16 DoShowInfoBox(const ScriptWords&) { return 0; }
+i16 DoShowInfoBox(const ScriptWords& words) {
+  ShowInfoBox(words.word(1));
+  return 0;
+}
 
-// Not yet: opens the object selection of the container named in word 1, modally.
-i16 DoShowContainer(const ScriptWords&) { return 0; }
+i16 DoShowContainer(const ScriptWords& words) {
+  ShowContainer(words.word(1));
+  return 0;
+}
 
-// Not yet: plays a video, or steps the television with "next" and "previous".
-i16 DoShowVideo(const ScriptWords&) { return 0; }
+i16 DoShowVideo(const ScriptWords& words) {
+  ShowVideo(words.word(1));
+  return 0;
+}
 
-// Not yet: stops the video in the main view.
-i16 DoStopVideo(const ScriptWords&) { return 0; }
+i16 DoStopVideo(const ScriptWords&) {
+  TheShotView().StopVideo();
+  return 0;
+}
 
-// Not yet: "goto set file" loads a world, "goto shot name" shows a shot.
-i16 DoGoto(const ScriptWords&) { return 0; }
+// "goto set file" loads a world from the database folder, "goto shot name" shows a shot. Only these
+// two need the name; any other word 1 does nothing.
+i16 DoGoto(const ScriptWords& words) {
+  const QString& kind = words.word(1);
+  if (kind == QLatin1StringView("set"))
+    LoadSet(words.word(2));
+  else if (kind == QLatin1StringView("shot"))
+    GotoShot(words.word(2));
+  return 0;
+}
 
-// Not yet: plays a loaded sound, looped on "looped".
-i16 DoPlayLocal(const ScriptWords&) { return 0; }
+// The script doesn't wait for the sound, which plays from the middle of the stereo field.
+i16 DoPlayLocal(const ScriptWords& words) {
+  const QString& name = words.word(1);
+  SoundMgr().PlayLocal(name, 0, words.word(2) == QLatin1StringView("looped"));
+  return 0;
+}
 
-// Not yet: stops a loaded sound.
-i16 DoStopLocal(const ScriptWords&) { return 0; }
+i16 DoStopLocal(const ScriptWords& words) {
+  SoundMgr().StopLocal(words.word(1));
+  return 0;
+}
 
-// Not yet: loads a sound file from the audio folder under a name; the sound manager's answer is the result.
-i16 DoLoadSound(const ScriptWords&) { return 0; }
+// "loadsound file name": the file lies in the audio folder. The line's result is -1 when it loaded.
+i16 DoLoadSound(const ScriptWords& words) {
+  const QString& file = words.word(1);
+  return toBoolean16(SoundMgr().LoadSound(file, words.word(2)));
+}
 
-// Not yet: switches a hotspot of the current shot on ("active") or off.
-i16 DoSetHotSpot(const ScriptWords&) { return 0; }
+// "sethotspot name [active]": the word "active" must be there, anything else switches it off.
+i16 DoSetHotSpot(const ScriptWords& words) {
+  const QString& name = words.word(1);
+  const bool active = words.word(2) == QLatin1StringView("active");
+  RequireCurrentShot().SetHotspotState(name, active);
+  return 0;
+}
 
 // Recognised, and does nothing by design: any words may follow.
 i16 DoObject(const ScriptWords&) { return 0; }

@@ -32,8 +32,7 @@ i16 EvalCondition(const QString& condition) {
   const QString keyword = cut(condition, firstBlank + 1, secondBlank).toLower();
   const QString value = condition.mid(secondBlank + 1);
 
-  if (!CurrentSet) throw RuntimeFailure(Failure::ObjectNotSet, QStringLiteral("CurrentSet"));
-  const cContainer& container = CurrentSet->GetContainer(name);
+  const cContainer& container = RequireCurrentSet().GetContainer(name);
   if (keyword == QLatin1String("state")) return toBoolean16(Val(value) == container.CurrentState);
   const bool holds = StripBlanks(container.CurrentObject).toLower() == value.toLower();
   if (keyword == QLatin1String("holds")) return toBoolean16(holds);

@@ -13,8 +13,7 @@ namespace fh {
 namespace {
 
 cContainer& liveContainer(const QString& name) {
-  if (!CurrentSet) throw RuntimeFailure(Failure::ObjectNotSet, QStringLiteral("CurrentSet"));
-  return CurrentSet->GetContainer(name);
+  return RequireCurrentSet().GetContainer(name);
 }
 
 i16 toggled(i16 state) {
@@ -36,8 +35,7 @@ void reportMissingRow(const QString& name) {
 }
 
 void refreshCurrentShot(bool refresh) {
-  if (!CurrentShot) throw RuntimeFailure(Failure::ObjectNotSet, QStringLiteral("CurrentShot"));
-  CurrentShot->RefreshVisualElements(refresh);
+  RequireCurrentShot().RefreshVisualElements(refresh);
 }
 
 }  // namespace

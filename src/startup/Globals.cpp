@@ -32,6 +32,16 @@ i16 ActiveComputerScreen = 0;
 std::shared_ptr<cSet> CurrentSet;
 std::shared_ptr<cShot> CurrentShot;
 
+cSet& RequireCurrentSet() {
+  if (!CurrentSet) throw RuntimeFailure(Failure::ObjectNotSet, QStringLiteral("CurrentSet"));
+  return *CurrentSet;
+}
+
+cShot& RequireCurrentShot() {
+  if (!CurrentShot) throw RuntimeFailure(Failure::ObjectNotSet, QStringLiteral("CurrentShot"));
+  return *CurrentShot;
+}
+
 QString StartSetFile;
 i16 GameMode = 1;
 i16 TVChannel = 0;

@@ -38,6 +38,9 @@ extern i16 ActiveComputerScreen;
 
 extern std::shared_ptr<cSet> CurrentSet;
 extern std::shared_ptr<cShot> CurrentShot;
+// The two above, where there must be one; without it "Object variable not set".
+cSet& RequireCurrentSet();
+cShot& RequireCurrentShot();
 
 extern QString StartSetFile;
 extern i16 GameMode;  // 1 play, 0 edit

@@ -36,7 +36,7 @@ void KeepShotsRowInLine(const cShot& shot) {
 }
 
 void SaveSet() {
-  if (!CurrentSet) throw RuntimeFailure(Failure::ObjectNotSet, QStringLiteral("CurrentSet"));
+  RequireCurrentSet();
   // "Untiltled" is the name the game has always used; existing worlds may rely on it.
   const QString fileName = CurrentSet->sName.isEmpty() ? QStringLiteral("Untiltled.set") : CurrentSet->sName + QStringLiteral(".set");
   const QString path = DatabasePath + fileName;

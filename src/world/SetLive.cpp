@@ -133,6 +133,8 @@ void cSet::ShowShot(i16 index) {
   CurrentShot->RefreshVisualElements(true);
 }
 
+i16 cSet::CheckHotSpots(i16 x, i16 y) const { return Shot(nCurrentShot)->CheckHotSpots(x, y); }
+
 std::shared_ptr<cShot> cSet::Shot(i16 index) const {
   if (index < 0 || index >= static_cast<int>(Shots.size()) || !Shots[index])
     throw RuntimeFailure(Failure::SubscriptOutOfRange, QStringLiteral("shot %1").arg(index));

@@ -66,11 +66,11 @@ bool ApplyFirstHoldingCelSource(cSprite& sprite, Recordset& sources, bool bChang
 // With `bChange` false a sprite still takes its new strip: a running one shows it at its next frame,
 // a halted one at the next full refresh.
 void cShot::RefreshSprites(bool bChange) {
-  if (!CurrentSet) throw RuntimeFailure(Failure::ObjectNotSet, QStringLiteral("CurrentSet"));
+  const cSet& set = RequireCurrentSet();
   QueryDef query = RequireGameDB().QueryDefs(QStringLiteral("GetSpriteCelSources"));
   const QString shotName = sName.toLower();
   for (i16 index = 0;; index = addI16(index, 1)) {
-    const std::shared_ptr<cSprite> sprite = CurrentSet->GetSprite(index);
+    const std::shared_ptr<cSprite> sprite = set.GetSprite(index);
     if (!sprite) break;
     if (sprite->Shot.toLower() != shotName) {
       sprite->Hide();

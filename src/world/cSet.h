@@ -64,6 +64,8 @@ class cSet {
   // Makes the shot at the index the current one, records it as the user's position and draws it.
   // -1 does nothing at all.
   void ShowShot(i16 index);
+  // The hit test on the shot at nCurrentShot.
+  i16 CheckHotSpots(i16 x, i16 y) const;
   // The shot at the index; outside the shots a run-time failure.
   std::shared_ptr<cShot> Shot(i16 index) const;
 

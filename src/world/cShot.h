@@ -43,6 +43,19 @@ class cShot {
   // Shows the score of this user's house, and marks the user as winner when it is 1.
   void RefreshScore();
 
+  // Enables or disables the first hotspot of this name in any case; an unknown name is told in a
+  // message box.
+  void SetHotspotState(const QString& name, bool state);
+  // The last hotspot moves into the gap, which changes the order, and with it who wins an overlap.
+  void DeleteHotSpot(i16 index);
+  // Appends a hotspot of this place and size with the defaults for the rest, and gives its index.
+  i16 AddHotSpot(i16 left, i16 top, i16 width, i16 height);
+  // The hit test: the lowest index whose inside holds the point, edges excluded, or -1. Disabled
+  // hotspots count: they shield those beneath them.
+  i16 CheckHotSpots(i16 x, i16 y) const;
+  // The hotspot at the index; none for -1 or a shot without hotspots, a bounds failure past the end.
+  std::shared_ptr<cHotSpot> HotSpot(i16 index) const;
+
   // Appends the record and its hotspots at the file's position.
   void Save(ByteFile& file, const SetWriting& writing = {}) const;
   // Reads the record and its hotspots from the file's position.

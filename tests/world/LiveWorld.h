@@ -46,8 +46,8 @@ class LiveWorld : public testing::Test {
 
     const QString database = QStringLiteral(FH_SOURCE_DIR "/world/database/");
     createDatabaseFile(data.at(QStringLiteral("Fernhollow.mdb")),
-                       {database + QStringLiteral("schema.sql"), database + QStringLiteral("queries.sql"),
-                        QStringLiteral(FH_SOURCE_DIR "/tests/world/LiveWorld.sql")});
+                       QStringList{database + QStringLiteral("schema.sql"), database + QStringLiteral("queries.sql"),
+                                   QStringLiteral(FH_SOURCE_DIR "/tests/world/LiveWorld.sql")} + moreRows());
     GameDB = Database::OpenDatabase(data.at(QStringLiteral("Fernhollow.mdb")));
     DatabasePath = data.path() + u'/';
     data.write(QStringLiteral("Small.set"), savedBytes(makeSet(QStringLiteral("Small"),
@@ -60,6 +60,9 @@ class LiveWorld : public testing::Test {
     BaseStateADR = baselines.stateADR;
     BaseObjectADR = baselines.objectADR;
   }
+
+  // Scripts of rows that a fixture adds to the small world, after LiveWorld.sql.
+  virtual QStringList moreRows() const { return {}; }
 
   void TearDown() override {
     CurrentSet.reset();

@@ -21,10 +21,8 @@ INSERT INTO Dialogs (Name, Text) VALUES
     ('BulbChoose', 'All these bulbs give about the same light. An LED bulb uses at least 75% less energy than the old kind.'),
     ('LampSwitchHint', 'The lamp switch. Is anybody reading here? Click to switch the lamp.'),
     ('BulbBoxHint', 'A box of new light bulbs. Click to read about lighting.'),
-    ('TVScreenHint', 'The television screen. Click to learn about TVs and energy.'),
+    ('TVScreenHint', 'The TV screen. The arrows below it change channels while the TV is on. Click for TV facts.'),
     ('TVPowerHint', 'The TV''s power button. Is anybody watching? Click to switch the TV on or off.'),
-    ('ChannelDownHint', 'Channel down. The TV must be on to change channels.'),
-    ('ChannelUpHint', 'Channel up. The TV must be on to change channels.'),
     ('ThermometerHint', 'A thermometer. Brrr! With the window open, the heat you paid for blows outside. Click for window facts.'),
     ('WindowHint', 'The living room window. Is it open while the heating runs? Click to open or shut it.'),
 

@@ -1,0 +1,125 @@
+#include "mainview/ShotView.h"
+
+#include "platform/Failure.h"
+#include "platform/Guard.h"
+#include "platform/PictureBox.h"
+#include "platform/Ui.h"
+#include "startup/Globals.h"
+#include "startup/frmSetup.h"
+#include "world/cHotSpot.h"
+#include "world/cSet.h"
+#include "world/cShot.h"
+
+#include <QKeyEvent>
+
+// How the pointer and the keyboard reach the game: the one mouse dispatcher, its two roads in, the
+// hover test of the game clock, and the key that opens the setup.
+namespace fh {
+
+namespace {
+
+// Held by the caller for as long as it works with it: a script line may end the set, and with it
+// the shot that owns the hotspot.
+std::shared_ptr<cHotSpot> hotSpotOfCurrentShot(i16 index) {
+  std::shared_ptr<cHotSpot> hotspot = RequireCurrentShot().HotSpot(index);
+  if (!hotspot) throw RuntimeFailure(Failure::ObjectNotSet, QStringLiteral("hotspot %1").arg(index));
+  return hotspot;
+}
+
+}  // namespace
+
+void ShotView::HandleMouse(int message, i16 x, i16 y) {
+  try {
+    handleMouseUnguarded(message, x, y);
+  } catch (const RuntimeFailure&) {
+    // The only net under a clicked script: the rest of it is lost without a word, and the next tick
+    // finds the hotspot under the pointer again. A film asked for by the television ends here.
+    CurrentHotSpotIndex = -1;
+  }
+}
+
+void ShotView::handleMouseUnguarded(int message, i16 x, i16 y) {
+  if (!CurrentShot || message < message::kMouseMove || message > message::kRightUp) return;
+  switch (message) {
+    case message::kMouseMove:
+      // The hit test waits for the next tick: a move costs two stores.
+      m_mouseX = x;
+      m_mouseY = y;
+      return;
+    case message::kLeftDown: {
+      m_leftDown = true;
+      if (GameMode != 1 || CurrentHotSpotIndex == -1) return;
+      // The hotspot that the last tick lit fires, not the one under the click: a click within a
+      // tick of arriving does nothing, and one in the moment of leaving still fires.
+      const std::shared_ptr<cHotSpot> hotspot = hotSpotOfCurrentShot(CurrentHotSpotIndex);
+      hotspot->LiteDown();
+      hotspot->Fire();
+      m_leftDown = false;
+      // The script may have changed the shot: what lies under the click now lights, in silence.
+      CurrentHotSpotIndex = RequireCurrentSet().CheckHotSpots(x, y);
+      if (CurrentHotSpotIndex != -1) hotSpotOfCurrentShot(CurrentHotSpotIndex)->LiteUp(false);
+      return;
+    }
+    case message::kLeftUp:
+      m_leftDown = false;
+      return;
+    case message::kLeftDoubleClick:
+      // Not yet: in edit mode a double click opens the hotspot's dialog; in play it does nothing.
+      return;
+    case message::kRightDown:
+      // Not yet: in edit mode a right press draws a new hotspot or takes one up for sizing.
+      if (GameMode == 1) m_rightDown = true;
+      return;
+    case message::kRightUp:
+      // A right release with the left button down is ignored, so RightDown outlasts it. Edit mode's
+      // sizing has always behaved so, and authors are used to it.
+      if (!m_leftDown) m_rightDown = false;
+      return;
+  }
+}
+
+// The hook gives the position in the window as two 16-bit halves; the dispatcher wants it in the
+// frame of DisplayView, like the picture's own messages.
+void ShotView::MsgBlaster1_Message(int message, std::uint32_t param) {
+  const std::uint32_t y = param / 65536;
+  const std::uint32_t x = param - 65536 * y;
+  HandleMouse(message, toI16(static_cast<int>(x) - DisplayView->x()), toI16(static_cast<int>(y) - DisplayView->y()));
+}
+
+void ShotView::GameClock_Timer() {
+  try {
+    gameClockTick();
+  } catch (const RuntimeFailure&) {
+    // Silent, like the mouse's net: a hotspot index that went stale is healed by the next tick.
+    CurrentHotSpotIndex = -1;
+  }
+}
+
+void ShotView::gameClockTick() {
+  if (!CurrentShot) return;
+  // The whole tick works on where the pointer was when it began.
+  const i16 x = m_mouseX;
+  const i16 y = m_mouseY;
+  const i16 hit = RequireCurrentSet().CheckHotSpots(x, y);
+  if (hit != CurrentHotSpotIndex) {
+    // The hotspot left is told first, by its old index, while the shot may have changed since the
+    // last tick; the count guards a shot without hotspots.
+    if (CurrentHotSpotIndex != -1 && RequireCurrentShot().NumHotSpots > 0) hotSpotOfCurrentShot(CurrentHotSpotIndex)->LiteDown();
+    CurrentHotSpotIndex = hit;
+    if (CurrentHotSpotIndex != -1 && RequireCurrentShot().NumHotSpots > 0) hotSpotOfCurrentShot(CurrentHotSpotIndex)->LiteUp(true);
+  }
+  if (GameMode == 0 && CurrentHotSpotIndex != -1) editDragStep(x, y);
+}
+
+// Not yet: in edit mode the tick moves the lit hotspot with a left drag and sizes it with a right one.
+void ShotView::editDragStep(i16, i16) {}
+
+// The character code is compared with "s" or "S", which is "s": a capital S does nothing, and the
+// setup has always opened that way.
+void ShotView::keyPressEvent(QKeyEvent* event) {
+  const QString text = event->text();
+  if (text.isEmpty() || text.at(0).unicode() != (u's' | u'S')) return;
+  guarded("key press", [] { ui().showModal(setupForm()); });
+}
+
+}  // namespace fh

@@ -1,0 +1,29 @@
+#include "script/ChoiceBoxes.h"
+
+#include "mainview/ShotView.h"
+#include "platform/Failure.h"
+#include "platform/PictureBox.h"
+#include "platform/Ui.h"
+#include "screens/ChoiceScreen.h"
+#include "startup/Globals.h"
+#include "world/cShot.h"
+
+namespace fh {
+
+namespace {
+
+void showChoiceScreen(ChoiceScreen* screen, const QString& name) {
+  if (!screen) return;
+  screen->Init(name);
+  screen->TakePalette(TheShotView().DisplayView->Picture());
+  ui().showModal(screen->form());
+  RequireCurrentShot().RefreshVisualElements(true);
+}
+
+}  // namespace
+
+void ShowInfoBox(const QString& name) { showChoiceScreen(InfoBoxScreen(), name); }
+
+void ShowContainer(const QString& name) { showChoiceScreen(SelectObjectScreen(), name); }
+
+}  // namespace fh

@@ -1,0 +1,69 @@
+#include "world/cShot.h"
+
+#include "platform/Failure.h"
+#include "platform/Ui.h"
+#include "world/cHotSpot.h"
+
+// The hotspots of a shot as a list: the hit test, and what the scripts and the editor do to it.
+namespace fh {
+
+namespace {
+
+[[noreturn]] void NoSuchHotSpot(const cShot& shot, i16 index) {
+  throw RuntimeFailure(Failure::SubscriptOutOfRange, QStringLiteral("hotspot %1 of shot '%2'").arg(index).arg(shot.sName));
+}
+
+}  // namespace
+
+void cShot::SetHotspotState(const QString& name, bool state) {
+  const QString wanted = name.toLower();
+  for (i16 i = 0; i < NumHotSpots; ++i) {
+    if (HotSpot(i)->Name.toLower() != wanted) continue;
+    HotSpots[i]->Enabled = state;
+    return;
+  }
+  MsgBox(QStringLiteral("Hotspot ") + name + QStringLiteral(" not found in current shot."));
+}
+
+// Not the shifting of the set's shots: the last one fills the gap and the array keeps its size, so
+// the order changes, and with it who wins an overlap and the order saved in the file.
+void cShot::DeleteHotSpot(i16 index) {
+  const i16 last = subI16(NumHotSpots, 1);
+  if (index < 0 || index > last || last >= static_cast<int>(HotSpots.size()))
+    NoSuchHotSpot(*this, index);
+  HotSpots[index] = HotSpots[last];
+  HotSpots[last].reset();
+  NumHotSpots = last;
+}
+
+i16 cShot::AddHotSpot(i16 left, i16 top, i16 width, i16 height) {
+  NumHotSpots = addI16(NumHotSpots, 1);
+  HotSpots.resize(NumHotSpots);
+  auto hotspot = std::make_shared<cHotSpot>();
+  hotspot->Left = left;
+  hotspot->Top = top;
+  hotspot->Width = width;
+  hotspot->Height = height;
+  HotSpots[NumHotSpots - 1] = std::move(hotspot);
+  return subI16(NumHotSpots, 1);
+}
+
+// Runs every tick of the game clock, so it looks at nothing but the rectangles. Both comparisons
+// are strict: a point on an edge is outside, and a hotspot one pixel wide can't be hit.
+i16 cShot::CheckHotSpots(i16 x, i16 y) const {
+  for (i16 i = 0; i < NumHotSpots; ++i) {
+    if (i >= static_cast<int>(HotSpots.size()) || !HotSpots[i]) NoSuchHotSpot(*this, i);
+    const cHotSpot& spot = *HotSpots[i];
+    if (x > spot.Left && x < spot.Left + spot.Width && y > spot.Top && y < spot.Top + spot.Height) return i;
+  }
+  return -1;
+}
+
+std::shared_ptr<cHotSpot> cShot::HotSpot(i16 index) const {
+  if (index == -1 || NumHotSpots == 0) return nullptr;
+  if (index < 0 || index >= NumHotSpots || index >= static_cast<int>(HotSpots.size()) || !HotSpots[index])
+    NoSuchHotSpot(*this, index);
+  return HotSpots[index];
+}
+
+}  // namespace fh

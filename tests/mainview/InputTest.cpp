@@ -1,0 +1,277 @@
+#include "LiveWorld.h"
+#include "SoundFiles.h"
+
+#include "platform/AudioOutput.h"
+#include "platform/ImagePair.h"
+#include "platform/MessageHook.h"
+#include "sound/SoundControls.h"
+#include "sound/cSoundMgr.h"
+#include "world/SetFile.h"
+#include "world/cHotSpot.h"
+#include "world/cSet.h"
+#include "world/cShot.h"
+
+#include <QCoreApplication>
+#include <QKeyEvent>
+#include <QMouseEvent>
+
+namespace fh::test {
+namespace {
+
+std::shared_ptr<cHotSpot> spot(const QString& name, QRect place, const QString& rollover, const QStringList& lines) {
+  auto hotspot = makeHotSpot(name, lines);
+  hotspot->Left = static_cast<i16>(place.left());
+  hotspot->Top = static_cast<i16>(place.top());
+  hotspot->Width = static_cast<i16>(place.width());
+  hotspot->Height = static_cast<i16>(place.height());
+  hotspot->Rollover = rollover;
+  return hotspot;
+}
+
+// The small world with hotspots, sounds and a television, played with mouse events sent to the
+// main view as the platform sends them. The game clock is ticked by hand.
+class PlayInput : public LiveWorld {
+ protected:
+  void SetUp() override {
+    LiveWorld::SetUp();
+    auto tap = spot(QStringLiteral("Tap"), {10, 10, 60, 60}, QStringLiteral("showdialog hello"), {QStringLiteral("togglecontainer tap")});
+    tap->Icon = 2;
+    auto door = spot(QStringLiteral("Door"), {100, 10, 60, 200}, QStringLiteral("showdialogstring the door"),
+                     {QStringLiteral("goto shot hall"), QStringLiteral("setcontainer lamp 0")});
+    auto broken = spot(QStringLiteral("Broken"), {200, 10, 60, 60}, {},
+                       {QStringLiteral("togglecontainer lamp"), QStringLiteral("togglecontainer nosuch"), QStringLiteral("togglecontainer tap")});
+    auto telly = spot(QStringLiteral("Telly"), {300, 10, 60, 60}, {}, {QStringLiteral("showvideo next"), QStringLiteral("togglecontainer tap")});
+    auto porch = makeShot(QStringLiteral("Porch"), {tap, door, broken, telly});
+    porch->ShotToRight = QStringLiteral("Hall");
+    auto hall = makeShot(QStringLiteral("Hall"), {spot(QStringLiteral("Stairs"), {90, 0, 100, 100}, QStringLiteral("showdialogstring upstairs"), {})});
+    hall->ShotToLeft = QStringLiteral("Porch");
+    data.write(QStringLiteral("Small.set"), savedBytes(makeSet(QStringLiteral("Small"), {porch, hall, makeShot(QStringLiteral("Computer"))})));
+
+    CloseAudioOutput();
+    resources.makeFolder(QStringLiteral("Audio"));
+    SoundMgr().Init();
+    for (const char* name : {"Click", "LiteUp"}) {
+      resources.write(QStringLiteral("Audio/%1.wav").arg(QLatin1StringView(name)), toneWave(3000));
+      ASSERT_TRUE(SoundMgr().LoadSound(QStringLiteral("%1.wav").arg(QLatin1StringView(name)), QString::fromLatin1(name)));
+    }
+    GameMode = 1;
+    ActiveComputerScreen = 0;
+    TVChannel = 0;
+    LoadSet(QStringLiteral("Small.set"));
+    view().show();
+  }
+
+  void TearDown() override {
+    SoundMgr().UnloadSounds();
+    CloseAudioOutput();
+    soundControls().CurrentSound = 0;
+    ActiveComputerScreen = 0;
+    LiveWorld::TearDown();
+  }
+
+  QStringList moreRows() const override { return {QStringLiteral(FH_SOURCE_DIR "/tests/world/Television.sql")}; }
+
+  static void send(QWidget* to, QEvent::Type type, QPoint at, Qt::MouseButton button = Qt::NoButton) {
+    QMouseEvent event(type, at, to->mapToGlobal(at), button, button, Qt::NoModifier);
+    QCoreApplication::sendEvent(to, &event);
+  }
+  // On the picture itself, in its pixels.
+  void moveTo(int x, int y) { send(view().DisplayView, QEvent::MouseMove, {x, y}); }
+  void press(int x, int y, Qt::MouseButton button = Qt::LeftButton) { send(view().DisplayView, QEvent::MouseButtonPress, {x, y}, button); }
+  // On the frame around the picture, in pixels of the frame picture.
+  void onFrame(QEvent::Type type, QPoint inFrame, Qt::MouseButton button = Qt::NoButton) { send(view().BackPlane, type, inFrame, button); }
+  void click(ImagePair* button, Qt::MouseButton which = Qt::LeftButton) {
+    send(button, QEvent::MouseButtonPress, {5, 5}, which);
+    send(button, QEvent::MouseButtonRelease, {5, 5}, which);
+  }
+  void tick() { view().GameClock_Timer(); }
+
+  int state(const char* container) { return CurrentSet->GetContainer(QString::fromLatin1(container)).CurrentState; }
+  int cursor() { return view().DisplayView->MousePointer(); }
+  // The sound that holds the channel: 0 Click, 1 LiteUp, -1 none.
+  static i16 sounding() { return soundControls().CurrentSound; }
+  void silence() { soundControls().StopSound(soundControls().CurrentSound); }
+};
+
+using ClickRoad = PlayInput;
+using FrameButtons = PlayInput;
+
+TEST_F(ClickRoad, TheHoverTestWaitsForTheTickAndRunsTheRolloverOncePerEntry) {
+  moveTo(30, 30);
+  EXPECT_EQ(view().MouseX(), 30);
+  EXPECT_EQ(view().CurrentHotSpotIndex, -1);
+  tick();
+  EXPECT_EQ(view().CurrentHotSpotIndex, 0);
+  EXPECT_EQ(cursor(), 2);
+  EXPECT_EQ(text(), QStringLiteral("Hello there."));
+  EXPECT_EQ(sounding(), 1);
+
+  silence();
+  view().TextWindow->setText(QStringLiteral("unchanged"));
+  moveTo(40, 40);
+  tick();
+  EXPECT_EQ(text(), QStringLiteral("unchanged"));
+  EXPECT_EQ(sounding(), -1);
+
+  // Straight into the door: the tap goes out, giving back the last text, and the door lights.
+  moveTo(120, 100);
+  tick();
+  EXPECT_EQ(view().CurrentHotSpotIndex, 1);
+  EXPECT_EQ(text(), QStringLiteral("the door"));
+  moveTo(500, 300);
+  tick();
+  EXPECT_EQ(view().CurrentHotSpotIndex, -1);
+  EXPECT_EQ(cursor(), 99);
+  EXPECT_EQ(text(), QStringLiteral("the door"));  // a free text is its own last text
+}
+
+TEST_F(ClickRoad, AClickFiresTheLitHotspotAndTheNewShotLightsInSilence) {
+  moveTo(120, 50);
+  tick();
+  silence();
+  press(120, 50);
+  EXPECT_EQ(CurrentShot->sName, QStringLiteral("Hall"));
+  EXPECT_EQ(state("lamp"), 0);  // the line behind the goto ran against the new shot
+  EXPECT_EQ(view().CurrentHotSpotIndex, 0);
+  EXPECT_EQ(text(), QStringLiteral("upstairs"));
+  EXPECT_EQ(sounding(), 0);  // the click, and no rollover sound after it
+  EXPECT_FALSE(view().LeftDown());
+}
+
+TEST_F(ClickRoad, AClickBeforeTheFirstTickOrWithAnotherButtonDoesNothing) {
+  moveTo(30, 30);
+  press(30, 30);
+  EXPECT_EQ(state("tap"), 1);
+  EXPECT_TRUE(view().LeftDown());  // the picture's own release isn't heard
+  tick();
+  press(30, 30, Qt::RightButton);
+  EXPECT_EQ(state("tap"), 1);
+  EXPECT_FALSE(view().RightDown());
+  press(30, 30);
+  EXPECT_EQ(state("tap"), 0);
+}
+
+// A quick second click is a double click, whose second press the picture doesn't report.
+TEST_F(ClickRoad, ADoubleClickFiresOnce) {
+  moveTo(30, 30);
+  tick();
+  press(30, 30);
+  send(view().DisplayView, QEvent::MouseButtonDblClick, {30, 30}, Qt::LeftButton);
+  EXPECT_EQ(state("tap"), 0);
+}
+
+TEST_F(ClickRoad, AFailingLineEndsTheScriptSilentlyAndTheNextTickLightsAgain) {
+  moveTo(230, 30);
+  tick();
+  press(230, 30);
+  EXPECT_EQ(state("lamp"), 0);
+  EXPECT_EQ(state("tap"), 1);
+  EXPECT_EQ(view().CurrentHotSpotIndex, -1);
+  EXPECT_TRUE(view().LeftDown());
+  EXPECT_TRUE(messages().isEmpty());
+  tick();
+  EXPECT_EQ(view().CurrentHotSpotIndex, 2);
+}
+
+TEST_F(ClickRoad, TheTelevisionShowsTheCaptionAndLosesTheLinesBehindIt) {
+  moveTo(330, 30);
+  tick();
+  press(330, 30);
+  EXPECT_EQ(TVChannel, 1);
+  EXPECT_EQ(text(), QStringLiteral("You are watching The Fernhollow Video"));
+  EXPECT_EQ(state("tap"), 1);
+  EXPECT_EQ(view().CurrentHotSpotIndex, -1);
+  EXPECT_TRUE(messages().isEmpty());
+  silence();
+  tick();
+  EXPECT_EQ(view().CurrentHotSpotIndex, 3);
+  EXPECT_EQ(sounding(), 1);
+}
+
+TEST_F(ClickRoad, AStaleIndexIsForgottenByTheTickWithoutAWord) {
+  view().CurrentHotSpotIndex = 9;
+  moveTo(30, 30);
+  tick();
+  EXPECT_EQ(view().CurrentHotSpotIndex, -1);
+  tick();
+  EXPECT_EQ(view().CurrentHotSpotIndex, 0);
+  EXPECT_TRUE(messages().isEmpty());
+}
+
+// The frame is heard through the window's hook, in pixels of the picture; the right button
+// matters only for the editor, with its release ignored while the left is down.
+TEST_F(ClickRoad, TheFrameIsHeardInPicturePixelsAndARightReleaseWaitsForTheLeft) {
+  onFrame(QEvent::MouseMove, {10, 20});
+  EXPECT_EQ(view().MouseX(), 6);
+  EXPECT_EQ(view().MouseY(), -28);
+  onFrame(QEvent::MouseButtonPress, {10, 20}, Qt::RightButton);
+  onFrame(QEvent::MouseButtonPress, {10, 20}, Qt::LeftButton);
+  onFrame(QEvent::MouseButtonRelease, {10, 20}, Qt::RightButton);
+  EXPECT_TRUE(view().RightDown());
+  onFrame(QEvent::MouseButtonRelease, {10, 20}, Qt::LeftButton);
+  EXPECT_FALSE(view().LeftDown());
+  EXPECT_TRUE(view().RightDown());
+  onFrame(QEvent::MouseButtonRelease, {10, 20}, Qt::RightButton);
+  EXPECT_FALSE(view().RightDown());
+}
+
+TEST_F(ClickRoad, BeforeAnyShotTheMouseIsNotEvenStored) {
+  CurrentShot.reset();
+  moveTo(30, 30);
+  tick();
+  EXPECT_EQ(view().MouseX(), 0);
+  EXPECT_EQ(view().CurrentHotSpotIndex, -1);
+}
+
+TEST_F(FrameButtons, TheArrowsTurnToTheNeighboursWithAClickAndAnEmptySideStays) {
+  silence();
+  click(view().btnLeft);
+  EXPECT_EQ(CurrentShot->sName, QStringLiteral("Porch"));
+  EXPECT_EQ(sounding(), -1);
+  EXPECT_TRUE(view().btnLeft->upVisible());
+  click(view().btnRight, Qt::RightButton);
+  EXPECT_EQ(CurrentShot->sName, QStringLiteral("Hall"));
+  EXPECT_EQ(sounding(), 0);
+  click(view().btnLeft);
+  EXPECT_EQ(CurrentShot->sName, QStringLiteral("Porch"));
+  EXPECT_EQ(ui.yields(), 6);
+}
+
+TEST_F(FrameButtons, TheComputerButtonGoesThereAndBackOnlyWhenItTookThePlayerThere) {
+  CurrentSet->ShowShot(2);
+  silence();
+  click(view().btnComputer);
+  EXPECT_EQ(CurrentShot->sName, QStringLiteral("Computer"));
+  EXPECT_EQ(sounding(), -1);
+
+  CurrentSet->ShowShot(1);
+  click(view().btnComputer);
+  EXPECT_EQ(CurrentShot->sName, QStringLiteral("Computer"));
+  EXPECT_EQ(view().ShotBeforeComputer(), QStringLiteral("Hall"));
+  ActiveComputerScreen = 3;
+  click(view().btnComputer);
+  EXPECT_EQ(CurrentShot->sName, QStringLiteral("Hall"));
+  EXPECT_EQ(ActiveComputerScreen, 0);
+  EXPECT_EQ(view().ShotBeforeComputer(), QStringLiteral("Hall"));
+}
+
+TEST_F(FrameButtons, ExitWithTheComputerOpenOnlySaysSo) {
+  ActiveComputerScreen = 1;
+  click(view().btnExit);
+  EXPECT_EQ(messages(), QStringList({QStringLiteral("You must exit the computer before you can exit the game...")}));
+  EXPECT_TRUE(CurrentSet);
+}
+
+TEST_F(FrameButtons, OnlyALowerCaseSOpensTheSetup) {
+  QKeyEvent capital(QEvent::KeyPress, Qt::Key_S, Qt::ShiftModifier, QStringLiteral("S"));
+  QCoreApplication::sendEvent(&view(), &capital);
+  EXPECT_TRUE(ui.shown().empty());
+  ui.queueModal([](QWidget& form) { form.hide(); });
+  QKeyEvent small(QEvent::KeyPress, Qt::Key_S, Qt::NoModifier, QStringLiteral("s"));
+  QCoreApplication::sendEvent(&view(), &small);
+  ASSERT_EQ(ui.shown().size(), 1u);
+  EXPECT_EQ(ui.shown().front().text, QStringLiteral("frmSetup"));
+}
+
+}  // namespace
+}  // namespace fh::test

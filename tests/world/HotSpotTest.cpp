@@ -1,0 +1,142 @@
+#include "LiveWorld.h"
+
+#include "platform/Failure.h"
+#include "world/SetFile.h"
+#include "world/cHotSpot.h"
+#include "world/cSet.h"
+#include "world/cShot.h"
+
+namespace fh::test {
+namespace {
+
+std::shared_ptr<cHotSpot> placed(const QString& name, i16 left, i16 top, i16 width, i16 height) {
+  auto spot = makeHotSpot(name);
+  spot->Left = left;
+  spot->Top = top;
+  spot->Width = width;
+  spot->Height = height;
+  return spot;
+}
+
+// The hit test: strict edges, the lowest index wins, and a disabled hotspot still shields.
+TEST(HitTest, EdgesAreOutsideAndTheLowestIndexWinsEvenWhenDisabled) {
+  auto shot = makeShot(QStringLiteral("Porch"), {placed(QStringLiteral("Lamp"), 10, 20, 30, 40),
+                                                 placed(QStringLiteral("Wall"), 0, 0, 100, 100),
+                                                 placed(QStringLiteral("Thin"), 200, 0, 1, 100)});
+  EXPECT_EQ(shot->CheckHotSpots(11, 21), 0);
+  EXPECT_EQ(shot->CheckHotSpots(39, 59), 0);
+  EXPECT_EQ(shot->CheckHotSpots(10, 30), 1);  // on Lamp's left edge: Wall's
+  EXPECT_EQ(shot->CheckHotSpots(40, 30), 1);
+  EXPECT_EQ(shot->CheckHotSpots(20, 60), 1);
+  EXPECT_EQ(shot->CheckHotSpots(0, 50), -1);
+  EXPECT_EQ(shot->CheckHotSpots(200, 50), -1);
+  EXPECT_EQ(shot->CheckHotSpots(201, 50), -1);  // one pixel wide: never hit
+  shot->HotSpots[0]->Enabled = false;
+  EXPECT_EQ(shot->CheckHotSpots(20, 30), 0);
+  EXPECT_EQ(makeShot(QStringLiteral("Empty"))->CheckHotSpots(20, 30), -1);
+}
+
+TEST(HotSpotList, AddKeepsTheDefaultsAndDeleteMovesTheLastIntoTheGap) {
+  auto shot = makeShot(QStringLiteral("Porch"), {placed(QStringLiteral("A"), 0, 0, 50, 50), placed(QStringLiteral("B"), 0, 0, 50, 50)});
+  EXPECT_EQ(shot->AddHotSpot(5, 6, 7, 8), 2);
+  const cHotSpot& added = *shot->HotSpot(2);
+  EXPECT_EQ(added.Left, 5);
+  EXPECT_EQ(added.Top, 6);
+  EXPECT_EQ(added.Width, 7);
+  EXPECT_EQ(added.Height, 8);
+  EXPECT_EQ(added.Icon, 5);
+  EXPECT_TRUE(added.Enabled);
+  EXPECT_TRUE(added.Name.isEmpty());
+  shot->HotSpot(2)->Name = QStringLiteral("C");
+
+  shot->DeleteHotSpot(0);
+  EXPECT_EQ(shot->NumHotSpots, 2);
+  EXPECT_EQ(shot->HotSpot(0)->Name, QStringLiteral("C"));
+  EXPECT_EQ(shot->HotSpot(1)->Name, QStringLiteral("B"));
+  EXPECT_FALSE(shot->HotSpot(-1));
+  EXPECT_THROW(shot->HotSpot(2), RuntimeFailure);
+  shot->DeleteHotSpot(1);
+  shot->DeleteHotSpot(0);
+  EXPECT_FALSE(shot->HotSpot(0));
+  EXPECT_THROW(shot->DeleteHotSpot(0), RuntimeFailure);
+}
+
+TEST(HotSpotLines, ReadingPastTheEmptyLastLineFailsAndWritingPastTheCountIsIgnored) {
+  auto spot = makeHotSpot(QStringLiteral("Door"), {QStringLiteral("goto shot hall"), QStringLiteral("playlocal door")});
+  EXPECT_EQ(spot->Script(1), QStringLiteral("playlocal door"));
+  EXPECT_EQ(spot->Script(2), QString());
+  EXPECT_THROW(spot->Script(3), RuntimeFailure);
+  spot->SetScriptLine(2, QStringLiteral("lost"));
+  EXPECT_EQ(spot->Script(2), QString());
+  spot->SetNumScriptLines(3);
+  spot->SetScriptLine(2, QStringLiteral("kept"));
+  EXPECT_EQ(spot->Script(2), QStringLiteral("kept"));
+  spot->SetNumScriptLines(1);
+  EXPECT_EQ(spot->Script(0), QStringLiteral("goto shot hall"));
+  EXPECT_EQ(spot->Script(1), QString());
+  spot->SetNumScriptLines(0);
+  EXPECT_EQ(spot->Script(7), QString());
+}
+
+// The live hotspot runs its lines against the small world.
+class LiveHotSpot : public LiveWorld {
+ protected:
+  void SetUp() override {
+    LiveWorld::SetUp();
+    auto tap = placed(QStringLiteral("Tap"), 10, 10, 50, 50);
+    tap->Icon = 2;
+    tap->Rollover = QStringLiteral("ShowDialog hello");
+    tap->ScriptLines = {QStringLiteral("togglecontainer tap"), QStringLiteral("togglecontainer lamp")};
+    tap->NumScriptLines = 2;
+    auto lamp = placed(QStringLiteral("Lamp"), 100, 10, 50, 50);
+    lamp->Rollover = QStringLiteral("togglecontainer lamp");
+    data.write(QStringLiteral("Small.set"), savedBytes(makeSet(QStringLiteral("Small"),
+        {makeShot(QStringLiteral("Porch"), {tap, lamp}), makeShot(QStringLiteral("Hall"))})));
+    LoadSet(QStringLiteral("Small.set"));
+  }
+  cHotSpot& spot(i16 index) { return *CurrentShot->HotSpot(index); }
+  int cursor() { return view().DisplayView->MousePointer(); }
+};
+
+TEST_F(LiveHotSpot, LiteUpSetsTheCursorAndRunsTheRolloverAndLiteDownGivesBackTheLastText) {
+  spot(0).LiteUp(false);
+  EXPECT_EQ(cursor(), 2);
+  EXPECT_EQ(text(), QStringLiteral("Hello there."));
+  spot(0).LiteDown();
+  EXPECT_EQ(cursor(), 99);
+  EXPECT_EQ(text(), QStringLiteral("The Porch"));
+
+  // A rollover of another kind is not undone.
+  spot(1).LiteUp(false);
+  spot(1).LiteDown();
+  EXPECT_EQ(text(), QStringLiteral("Hall Lamp is now off"));
+  EXPECT_EQ(CurrentSet->GetContainer(QStringLiteral("lamp")).CurrentState, 0);
+}
+
+TEST_F(LiveHotSpot, FireRunsEveryLineAndADisabledHotSpotDoesNothingAtAll) {
+  spot(0).Fire();
+  EXPECT_EQ(stored(QStringLiteral("CurrentState"), QStringLiteral("Tap")), 0);
+  EXPECT_EQ(stored(QStringLiteral("CurrentState"), QStringLiteral("Lamp")), 0);
+
+  CurrentShot->SetHotspotState(QStringLiteral("TAP"), false);
+  view().TextWindow->setText(QStringLiteral("untouched"));
+  view().SetCursor(7);
+  spot(0).LiteUp(true);
+  spot(0).Fire();
+  spot(0).LiteDown();
+  EXPECT_EQ(text(), QStringLiteral("untouched"));
+  EXPECT_EQ(stored(QStringLiteral("CurrentState"), QStringLiteral("Tap")), 0);
+  EXPECT_EQ(cursor(), 7);
+
+  CurrentShot->SetHotspotState(QStringLiteral("Attic door"), true);
+  EXPECT_EQ(messages(), QStringList({QStringLiteral("Hotspot Attic door not found in current shot.")}));
+}
+
+TEST_F(LiveHotSpot, TheSetsHitTestIsTheCurrentShots) {
+  EXPECT_EQ(CurrentSet->CheckHotSpots(120, 20), 1);
+  CurrentSet->ShowShot(1);
+  EXPECT_EQ(CurrentSet->CheckHotSpots(120, 20), -1);
+}
+
+}  // namespace
+}  // namespace fh::test

@@ -215,14 +215,6 @@ TEST_F(ClickRoad, TheFrameIsHeardInPicturePixelsAndARightReleaseWaitsForTheLeft)
   EXPECT_FALSE(view().RightDown());
 }
 
-TEST_F(ClickRoad, BeforeAnyShotTheMouseIsNotEvenStored) {
-  CurrentShot.reset();
-  moveTo(30, 30);
-  tick();
-  EXPECT_EQ(view().MouseX(), 0);
-  EXPECT_EQ(view().CurrentHotSpotIndex, -1);
-}
-
 TEST_F(FrameButtons, TheArrowsTurnToTheNeighboursWithAClickAndAnEmptySideStays) {
   silence();
   click(view().btnLeft);

@@ -132,11 +132,5 @@ TEST_F(LiveHotSpot, FireRunsEveryLineAndADisabledHotSpotDoesNothingAtAll) {
   EXPECT_EQ(messages(), QStringList({QStringLiteral("Hotspot Attic door not found in current shot.")}));
 }
 
-TEST_F(LiveHotSpot, TheSetsHitTestIsTheCurrentShots) {
-  EXPECT_EQ(CurrentSet->CheckHotSpots(120, 20), 1);
-  CurrentSet->ShowShot(1);
-  EXPECT_EQ(CurrentSet->CheckHotSpots(120, 20), -1);
-}
-
 }  // namespace
 }  // namespace fh::test

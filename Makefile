@@ -3,7 +3,7 @@ BUILD_DIR ?= build
 JOBS ?= $(shell nproc)
 CMAKE_FLAGS ?= -DCMAKE_BUILD_TYPE=RelWithDebInfo
 
-.PHONY: all deps configure build play test clean
+.PHONY: all deps configure build play test bench clean
 
 all: build
 
@@ -23,6 +23,10 @@ play: build
 
 test: build
 	cd $(BUILD_DIR) && QT_QPA_PLATFORM=offscreen SDL_AUDIODRIVER=dummy ctest --output-on-failure -j $(JOBS)
+
+bench: build
+	cmake --build $(BUILD_DIR) -j $(JOBS) --target fhbench
+	$(BUILD_DIR)/bench/fhbench
 
 clean:
 	rm -rf $(BUILD_DIR)

@@ -22,12 +22,13 @@ char toByte(char16_t c) {
 
 }  // namespace
 
-QString fromAnsi(const QByteArray& bytes) {
-  QString text;
-  text.reserve(bytes.size());
+// World files are read a text field at a time, so this writes the characters in place.
+QString fromAnsi(QByteArrayView bytes) {
+  QString text(bytes.size(), Qt::Uninitialized);
+  char16_t* out = reinterpret_cast<char16_t*>(text.data());
   for (const char b : bytes) {
     const auto u = static_cast<unsigned char>(b);
-    text += QChar(u >= 0x80 && u < 0xA0 ? kHighControls[u - 0x80] : char16_t(u));
+    *out++ = u >= 0x80 && u < 0xA0 ? kHighControls[u - 0x80] : char16_t(u);
   }
   return text;
 }

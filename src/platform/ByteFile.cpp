@@ -40,22 +40,24 @@ ByteFile::~ByteFile() {
   }
 }
 
-QByteArray ByteFile::getBytes(qsizetype count) {
+QByteArrayView ByteFile::takeBytes(qsizetype count) {
   if (count < 0 || count > remaining()) {
     m_position = m_bytes.size();
     throw RuntimeFailure(Failure::InputPastEndOfFile);
   }
-  QByteArray result = m_bytes.mid(m_position, count);
+  const QByteArrayView result(m_bytes.constData() + m_position, count);
   m_position += count;
   return result;
 }
 
+QByteArray ByteFile::getBytes(qsizetype count) { return takeBytes(count).toByteArray(); }
+
 i16 ByteFile::getInteger() {
-  const QByteArray b = getBytes(2);
+  const QByteArrayView b = takeBytes(2);
   return static_cast<i16>(static_cast<unsigned char>(b[0]) | (static_cast<unsigned char>(b[1]) << 8));
 }
 
-QString ByteFile::getText(qsizetype length) { return fromAnsi(getBytes(length)); }
+QString ByteFile::getText(qsizetype length) { return fromAnsi(takeBytes(length)); }
 
 void ByteFile::putBytes(const QByteArray& bytes) {
   m_bytes.append(bytes);

@@ -47,6 +47,8 @@ class ByteFile {
 
  private:
   ByteFile() = default;
+  // The next `count` bytes, read past; they stay valid while the file lives and nothing is put.
+  QByteArrayView takeBytes(qsizetype count);
 
   QByteArray m_bytes;
   qsizetype m_position = 0;

@@ -18,13 +18,16 @@ void getTag(ByteFile& file, QString& header, const QString& tag, const QString& 
 
 QString getText(ByteFile& file, const SetReading& reading) {
   // Only blanks are trimmed: a tab or a no-break space at either end is part of the text.
-  const QString text = file.getText(kTextLength);
+  QString text = file.getText(kTextLength);
   qsizetype end = text.size();
   while (end > 0 && text[end - 1] == u' ') --end;
   qsizetype start = 0;
   if (!reading.keepLeadingBlanks)
     while (start < end && text[start] == u' ') ++start;
-  return text.mid(start, end - start);
+  // In place: the text is this function's own.
+  text.truncate(end);
+  text.remove(0, start);
+  return text;
 }
 
 qsizetype roomFor(const ByteFile& file, i16 count, qsizetype recordSize, const char* what) {

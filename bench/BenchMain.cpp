@@ -1,3 +1,4 @@
+#include "ChildRuns.h"
 #include "FloorTable.h"
 
 #include "QuietUi.h"
@@ -17,6 +18,7 @@ int main(int argc, char** argv) {
   QApplication app(argc, argv);
   // Nobody is there to answer: a world that asks something is counted and told at the end.
   fh::fhset::QuietUi quiet;
+  if (const std::optional<int> childCode = fh::bench::RunChildMode(argc, argv)) return *childCode;
 
   using fh::bench::TableLine;
   using Kind = TableLine::Kind;
@@ -28,12 +30,19 @@ int main(int argc, char** argv) {
       {"Set file parsing (floor: copying its bytes)", "parse set file", "copy set file bytes", Kind::Throughput},
       {"CheckHotSpots on 19 hotspots (floor: a plain loop)", "check hotspots", "check rectangles", Kind::Time},
       {"A rollover line (floor: split and show the text)", "rollover line", "split and show text", Kind::Time},
+      {"Start-up to the opening screen (floor: an empty Qt window)", "start-up", "empty window", Kind::Time},
+      {"Peak memory, walking every shot (floor: an empty Qt window)", "walk peak memory", "empty peak memory", Kind::Bytes},
   });
   benchmark::Initialize(&argc, argv);
   try {
     benchmark::RunSpecifiedBenchmarks(&table);
+    table.add("walk peak memory", fh::bench::LaunchChild(QStringLiteral("walk")).peakBytes);
+    table.add("empty peak memory", fh::bench::LaunchChild(QStringLiteral("empty")).peakBytes);
   } catch (const fh::RuntimeFailure& failure) {
     std::fprintf(stderr, "fhbench: %s\n", qPrintable(failure.message()));
+    return 1;
+  } catch (const std::exception& failure) {
+    std::fprintf(stderr, "fhbench: %s\n", failure.what());
     return 1;
   }
   benchmark::Shutdown();

@@ -12,7 +12,8 @@ namespace fh::setfile {
 void putTag(ByteFile& file, const QString& header) { file.putBytes(toAnsi(header)); }
 
 void getTag(ByteFile& file, QString& header, const QString& tag, const QString& mismatchTitle) {
-  header = fromAnsi(file.getBytes(toAnsi(header).size()));
+  // One byte a character: the tag read is as long as the header the record holds.
+  header = file.getText(header.size());
   if (header != tag) MsgBox(QStringLiteral("File badness"), Buttons::Ok, mismatchTitle);
 }
 

@@ -2,13 +2,11 @@
 
 #include "BundledSession.h"
 
-#include "QuietUi.h"
 #include "platform/Settings.h"
 #include "startup/Globals.h"
 #include "startup/Main.h"
 #include "world/cSet.h"
 
-#include <QApplication>
 #include <QCoreApplication>
 #include <QDir>
 #include <QElapsedTimer>
@@ -61,7 +59,6 @@ int emptyChild() {
 }
 
 int walkChild() {
-  fh::fhset::QuietUi quiet;
   BundledSession session;
   session.loadWorld();
   for (i16 shot = 0; shot < CurrentSet->nNumShots; ++shot) {

@@ -6,7 +6,6 @@
 #include "platform/PictureBox.h"
 #include "script/Interpreter.h"
 #include "startup/Globals.h"
-#include "world/SetFile.h"
 #include "world/cHotSpot.h"
 #include "world/cSet.h"
 #include "world/cShot.h"

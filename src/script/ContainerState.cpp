@@ -12,10 +12,6 @@ namespace fh {
 
 namespace {
 
-cContainer& liveContainer(const QString& name) {
-  return RequireCurrentSet().GetContainer(name);
-}
-
 i16 toggled(i16 state) {
   const i16 next = addI16(state, 1);
   return next == 2 ? 0 : next;
@@ -34,14 +30,10 @@ void reportMissingRow(const QString& name) {
   MsgBox(QStringLiteral("Can't find Container ") + name + QStringLiteral(" check database and try again."));
 }
 
-void refreshCurrentShot(bool refresh) {
-  RequireCurrentShot().RefreshVisualElements(refresh);
-}
-
 }  // namespace
 
 void SetContainer(const QString& name, i16 state, bool refresh) {
-  liveContainer(name).CurrentState = state;
+  RequireCurrentSet().GetContainer(name).CurrentState = state;
   QueryDef query = containerQuery(name);
   Recordset row = query.OpenRecordset();
   if (row.IsEOF()) {
@@ -53,11 +45,11 @@ void SetContainer(const QString& name, i16 state, bool refresh) {
   }
   row.Close();
   query.Close();
-  refreshCurrentShot(refresh);
+  RequireCurrentShot().RefreshVisualElements(refresh);
 }
 
 void ToggleContainer(const QString& name, bool refresh) {
-  cContainer& container = liveContainer(name);
+  cContainer& container = RequireCurrentSet().GetContainer(name);
   container.CurrentState = toggled(container.CurrentState);
   QueryDef query = containerQuery(name);
   Recordset row = query.OpenRecordset();
@@ -75,7 +67,7 @@ void ToggleContainer(const QString& name, bool refresh) {
   }
   row.Close();
   query.Close();
-  refreshCurrentShot(refresh);
+  RequireCurrentShot().RefreshVisualElements(refresh);
 }
 
 }  // namespace fh

@@ -22,13 +22,18 @@ char toByte(char16_t c) {
 
 }  // namespace
 
-// World files are read a text field at a time, so this writes the characters in place.
+// World files are read a text field at a time. Most texts are plain ASCII or Latin-1, which Qt
+// widens quickly; only the rare bytes 0x80 to 0x9F are then put right one by one.
 QString fromAnsi(QByteArrayView bytes) {
-  QString text(bytes.size(), Qt::Uninitialized);
+  QString text = QString::fromLatin1(bytes);
+  bool anyHighControl = false;
+  for (const char b : bytes) anyHighControl |= (static_cast<unsigned char>(b) & 0xE0) == 0x80;
+  if (!anyHighControl) return text;
   char16_t* out = reinterpret_cast<char16_t*>(text.data());
   for (const char b : bytes) {
     const auto u = static_cast<unsigned char>(b);
-    *out++ = u >= 0x80 && u < 0xA0 ? kHighControls[u - 0x80] : char16_t(u);
+    if (u >= 0x80 && u < 0xA0) *out = kHighControls[u - 0x80];
+    ++out;
   }
   return text;
 }

@@ -40,22 +40,12 @@ ByteFile::~ByteFile() {
   }
 }
 
-QByteArrayView ByteFile::takeBytes(qsizetype count) {
-  if (count < 0 || count > remaining()) {
-    m_position = m_bytes.size();
-    throw RuntimeFailure(Failure::InputPastEndOfFile);
-  }
-  const QByteArrayView result(m_bytes.constData() + m_position, count);
-  m_position += count;
-  return result;
+void ByteFile::failPastEnd() {
+  m_position = m_bytes.size();
+  throw RuntimeFailure(Failure::InputPastEndOfFile);
 }
 
 QByteArray ByteFile::getBytes(qsizetype count) { return takeBytes(count).toByteArray(); }
-
-i16 ByteFile::getInteger() {
-  const QByteArrayView b = takeBytes(2);
-  return static_cast<i16>(static_cast<unsigned char>(b[0]) | (static_cast<unsigned char>(b[1]) << 8));
-}
 
 QString ByteFile::getText(qsizetype length) { return fromAnsi(takeBytes(length)); }
 

@@ -3,6 +3,7 @@
 #include "platform/Values.h"
 
 #include <QByteArray>
+#include <QByteArrayView>
 #include <QString>
 
 namespace fh {
@@ -26,10 +27,21 @@ class ByteFile {
   ~ByteFile();
 
   QByteArray getBytes(qsizetype count);
-  i16 getInteger();
+  i16 getInteger() {
+    const QByteArrayView b = takeBytes(2);
+    return static_cast<i16>(static_cast<unsigned char>(b[0]) | (static_cast<unsigned char>(b[1]) << 8));
+  }
   bool getBoolean() { return getInteger() != 0; }
   // `length` bytes as text, exactly as they stand (padding included).
   QString getText(qsizetype length);
+  // The next `count` bytes, read past; they stay valid while the file lives and nothing is put.
+  // Kept here, in line: a world file is read a field at a time.
+  QByteArrayView takeBytes(qsizetype count) {
+    if (count < 0 || count > remaining()) failPastEnd();
+    const QByteArrayView result(m_bytes.constData() + m_position, count);
+    m_position += count;
+    return result;
+  }
 
   void putBytes(const QByteArray& bytes);
   void putInteger(i16 value);
@@ -47,8 +59,8 @@ class ByteFile {
 
  private:
   ByteFile() = default;
-  // The next `count` bytes, read past; they stay valid while the file lives and nothing is put.
-  QByteArrayView takeBytes(qsizetype count);
+  // A read past the end moves to the end, and fails.
+  [[noreturn]] void failPastEnd();
 
   QByteArray m_bytes;
   qsizetype m_position = 0;

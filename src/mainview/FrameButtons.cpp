@@ -1,5 +1,6 @@
 #include "mainview/ShotView.h"
 
+#include "platform/PictureBox.h"
 #include "platform/Ui.h"
 #include "script/ComputerCommand.h"
 #include "script/Interpreter.h"
@@ -47,11 +48,12 @@ void ShotView::btnComputer_Action() {
   RunScriptLine(QStringLiteral("Goto Shot ") + m_shotBeforeComputer);
 }
 
-// The music dialog lies over the house, never over the computer. Its palette picture would only
-// matter on a display of 256 colours, which the program never gets.
+// The music dialog lies over the house, never over the computer.
 void ShotView::btnStereo_Action() {
   if (ActiveComputerScreen != 0) return;
-  if (QWidget* dialog = SelectMusicForm()) ui().showModal(*dialog);
+  SelectMusic& dialog = SelectMusicForm(displayViewOnScreen());
+  dialog.Palette = DisplayView->Picture();
+  ui().showModal(dialog);
 }
 
 void ShotView::btnExit_Action() {

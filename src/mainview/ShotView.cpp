@@ -218,6 +218,8 @@ void ShotView::loadWindow() {
 
 QPoint ShotView::framePosition() const { return BackPlane->pos(); }
 
+QRect ShotView::displayViewOnScreen() const { return {DisplayView->mapToGlobal(QPoint(0, 0)), DisplayView->size()}; }
+
 void ShotView::SetScore(i16 score) {
   if (UserHasWonGame) {
     Score->setText(QStringLiteral("wise!"));

@@ -88,6 +88,8 @@ class ShotView : public QWidget {
 
   // The picture's top left corner in the window.
   QPoint framePosition() const;
+  // DisplayView's place on the screen, which the small windows centre themselves over.
+  QRect displayViewOnScreen() const;
   i16 MeterFrame() const { return m_meterFrame; }
   bool WindowActivated() const { return m_windowActivated; }
   const QString& CurrentBackdrop() const { return m_currentBackdrop; }

@@ -26,6 +26,56 @@ Recordset readRows(const std::shared_ptr<DatabaseConnection>& connection, QSqlQu
   return Recordset(connection, columns, std::move(rows), std::move(target));
 }
 
+bool startsName(QChar c) { return c.isLetter() || c == u'_'; }
+bool continuesName(QChar c) { return c.isLetterOrNumber() || c == u'_'; }
+
+// The names of the form Table.Column that a statement writes outside quotes and literals, as
+// [start, length) spans, last first so that they can be replaced in place.
+std::vector<std::pair<qsizetype, qsizetype>> dottedNames(const QString& statement) {
+  std::vector<std::pair<qsizetype, qsizetype>> spans;
+  const qsizetype end = statement.size();
+  qsizetype i = 0;
+  while (i < end) {
+    const QChar c = statement[i];
+    if (c == u'\'' || c == u'"') {
+      const qsizetype closing = statement.indexOf(c, i + 1);
+      i = closing < 0 ? end : closing + 1;
+      continue;
+    }
+    if (!startsName(c) || (i > 0 && continuesName(statement[i - 1]))) {
+      ++i;
+      continue;
+    }
+    const qsizetype start = i;
+    bool dotted = false;
+    for (;;) {
+      while (i < end && continuesName(statement[i])) ++i;
+      if (i + 1 >= end || statement[i] != u'.' || !startsName(statement[i + 1])) break;
+      dotted = true;
+      ++i;
+    }
+    if (dotted) spans.emplace(spans.begin(), start, i - start);
+  }
+  return spans;
+}
+
+// A saved query that joins tables names its columns as Jet did, "Objects.Name", and statements
+// on it write such a name as it stands, without quotes: WHERE Containers.Name = ?. SQL would read
+// that as column Name of a table Containers, so such a name is quoted here when the source has a
+// column of that very name.
+QString quoteDottedColumns(const QString& statement, const QStringList& columns) {
+  QString quoted = statement;
+  for (const auto& [start, length] : dottedNames(statement)) {
+    const QString name = statement.mid(start, length);
+    for (const QString& column : columns) {
+      if (column.compare(name, Qt::CaseInsensitive) != 0) continue;
+      quoted.replace(start, length, quotedName(column));
+      break;
+    }
+  }
+  return quoted;
+}
+
 }  // namespace
 
 QueryDef::QueryDef(std::shared_ptr<DatabaseConnection> connection, const SavedQuery& query)
@@ -88,6 +138,7 @@ Recordset Database::openStatement(const QString& statementText, const QVariantLi
   static const QRegularExpression singleTable(QStringLiteral("^\\s*SELECT\\s+\\*\\s+FROM\\s+(?:\"([^\"]+)\"|(\\w+))\\s*(?:WHERE\\b.*)?$"),
                                               QRegularExpression::CaseInsensitiveOption | QRegularExpression::DotMatchesEverythingOption);
   Recordset::Target target;
+  QString statement = statementText;
   const QRegularExpressionMatch match = singleTable.match(statementText);
   if (match.hasMatch()) {
     const QString named = match.captured(1).isEmpty() ? match.captured(2) : match.captured(1);
@@ -95,8 +146,9 @@ Recordset Database::openStatement(const QString& statementText, const QVariantLi
       const QString key = m_connection->primaryKeyOf(*table);
       if (!key.isEmpty()) target = {*table, key, key};
     }
+    if (!dottedNames(statement).empty()) statement = quoteDottedColumns(statement, m_connection->columnsOf(named));
   }
-  QSqlQuery query = m_connection->run(statementText, values);
+  QSqlQuery query = m_connection->run(statement, values);
   return readRows(m_connection, query, target);
 }
 

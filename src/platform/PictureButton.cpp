@@ -1,5 +1,7 @@
 #include "platform/PictureButton.h"
 
+#include "platform/WindowArt.h"
+
 #include <QPainter>
 
 namespace fh {
@@ -20,6 +22,13 @@ void PictureButton::setPictures(const QPixmap& normal, const QPixmap& pressed) {
 void PictureButton::paintEvent(QPaintEvent*) {
   QPainter painter(this);
   painter.drawPixmap(0, 0, isDown() ? m_pressed : m_normal);
+}
+
+PictureButton* WindowArtButton(QWidget* form, const QString& name, const QString& toolTip, const QString& pictures, QPoint place) {
+  auto* button = new PictureButton(name, toolTip, form);
+  button->setPictures(WindowPixmap(pictures + QStringLiteral("Up")), WindowPixmap(pictures + QStringLiteral("Down")));
+  button->move(place);
+  return button;
 }
 
 }  // namespace fh

@@ -21,4 +21,7 @@ class PictureButton : public QPushButton {
   QPixmap m_pressed;
 };
 
+// A picture button of the windows' own art (`pictures` + "Up" and + "Down"), at `place` in its form.
+PictureButton* WindowArtButton(QWidget* form, const QString& name, const QString& toolTip, const QString& pictures, QPoint place);
+
 }  // namespace fh

@@ -1,11 +1,12 @@
 #include "screens/ChoiceScreen.h"
 
+#include "screens/InfoBox.h"
+#include "screens/SelectObject.h"
+
 namespace fh {
 
-// Not yet: the info box arrives with its own unit.
-ChoiceScreen* InfoBoxScreen() { return nullptr; }
+ChoiceScreen& InfoBoxScreen(const QRect& view) { return InfoBoxForm(view); }
 
-// Not yet: the object selection arrives with its own unit.
-ChoiceScreen* SelectObjectScreen() { return nullptr; }
+ChoiceScreen& SelectObjectScreen(const QRect& view) { return SelectObjectForm(view); }
 
 }  // namespace fh

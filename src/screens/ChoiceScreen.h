@@ -1,6 +1,7 @@
 #pragma once
 
 class QPixmap;
+class QRect;
 class QString;
 class QWidget;
 
@@ -20,9 +21,9 @@ class ChoiceScreen {
   virtual void TakePalette(const QPixmap& picture) = 0;
 };
 
-// The info box, made on first use; none while it isn't built.
-ChoiceScreen* InfoBoxScreen();
-// The object selection, made on first use; none while it isn't built.
-ChoiceScreen* SelectObjectScreen();
+// The screens are made on first use, and centre themselves then over `view`, the shot's picture
+// on the screen.
+ChoiceScreen& InfoBoxScreen(const QRect& view);
+ChoiceScreen& SelectObjectScreen(const QRect& view);
 
 }  // namespace fh

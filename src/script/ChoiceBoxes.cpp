@@ -1,7 +1,6 @@
 #include "script/ChoiceBoxes.h"
 
 #include "mainview/ShotView.h"
-#include "platform/Failure.h"
 #include "platform/PictureBox.h"
 #include "platform/Ui.h"
 #include "screens/ChoiceScreen.h"
@@ -12,18 +11,17 @@ namespace fh {
 
 namespace {
 
-void showChoiceScreen(ChoiceScreen* screen, const QString& name) {
-  if (!screen) return;
-  screen->Init(name);
-  screen->TakePalette(TheShotView().DisplayView->Picture());
-  ui().showModal(screen->form());
+void showChoiceScreen(ChoiceScreen& screen, const QString& name) {
+  screen.Init(name);
+  screen.TakePalette(TheShotView().DisplayView->Picture());
+  ui().showModal(screen.form());
   RequireCurrentShot().RefreshVisualElements(true);
 }
 
 }  // namespace
 
-void ShowInfoBox(const QString& name) { showChoiceScreen(InfoBoxScreen(), name); }
+void ShowInfoBox(const QString& name) { showChoiceScreen(InfoBoxScreen(TheShotView().displayViewOnScreen()), name); }
 
-void ShowContainer(const QString& name) { showChoiceScreen(SelectObjectScreen(), name); }
+void ShowContainer(const QString& name) { showChoiceScreen(SelectObjectScreen(TheShotView().displayViewOnScreen()), name); }
 
 }  // namespace fh

@@ -5,6 +5,7 @@
 #include "platform/Ui.h"
 #include "script/Dialogs.h"
 #include "script/Interpreter.h"
+#include "sound/SelectMusic.h"
 #include "sound/cSoundMgr.h"
 #include "startup/Globals.h"
 #include "startup/Splash.h"
@@ -91,7 +92,8 @@ void SetWonGame() {
 void EndGame() {
   ShotView& view = TheShotView();
   view.StopVideo();
-  // Not yet: unload the SelectMusic form, so that its choice doesn't outlive the session.
+  // The music dialog's choice doesn't outlive the session; the music itself stops below.
+  UnloadSelectMusic();
 
   // Play time is written only here: a crash loses the time of this session and nothing else.
   Recordset user = currentUserRow();

@@ -23,13 +23,6 @@ QLineEdit* greyBox(QWidget* parent, const QString& name, const QRect& place) {
   return box;
 }
 
-PictureButton* pictureButton(QWidget* parent, const QString& name, const QString& pictures, QPoint place) {
-  auto* button = new PictureButton(name, {}, parent);
-  button->setPictures(WindowPixmap(pictures + QStringLiteral("Up")), WindowPixmap(pictures + QStringLiteral("Down")));
-  button->move(place);
-  return button;
-}
-
 }  // namespace
 
 frmNewUser::frmNewUser(QWidget* parent) : QDialog(parent) {
@@ -43,9 +36,9 @@ frmNewUser::frmNewUser(QWidget* parent) : QDialog(parent) {
   txtUserName = greyBox(this, QStringLiteral("txtUserName"), twipsRect(1545, 1290, 2325, 345));
   txtPassword = greyBox(this, QStringLiteral("txtPassword"), twipsRect(1545, 1695, 2325, 345));
 
-  cmdOK = pictureButton(this, QStringLiteral("cmdOK"), QStringLiteral("Ok"), twipsRect(3885, 2520, 795, 960).topLeft());
+  cmdOK = WindowArtButton(this, QStringLiteral("cmdOK"), {}, QStringLiteral("Ok"), twipsRect(3885, 2520, 795, 960).topLeft());
   cmdOK->setDefault(true);
-  cmdCancel = pictureButton(this, QStringLiteral("cmdCancel"), QStringLiteral("NewUserCancel"), twipsRect(135, 2535, 1320, 960).topLeft());
+  cmdCancel = WindowArtButton(this, QStringLiteral("cmdCancel"), {}, QStringLiteral("NewUserCancel"), twipsRect(135, 2535, 1320, 960).topLeft());
   cmdCancel->setAutoDefault(false);
 
   connect(cmdOK, &QPushButton::clicked, this, [this] { guarded("frmNewUser OK", [this] { cmdOK_Click(); }); });

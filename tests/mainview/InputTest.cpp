@@ -4,6 +4,8 @@
 #include "platform/AudioOutput.h"
 #include "platform/ImagePair.h"
 #include "platform/MessageHook.h"
+#include "platform/PictureButton.h"
+#include "sound/SelectMusic.h"
 #include "sound/SoundControls.h"
 #include "sound/cSoundMgr.h"
 #include "world/SetFile.h"
@@ -62,6 +64,7 @@ class PlayInput : public LiveWorld {
   }
 
   void TearDown() override {
+    UnloadSelectMusic();
     SoundMgr().UnloadSounds();
     CloseAudioOutput();
     soundControls().CurrentSound = 0;
@@ -252,6 +255,29 @@ TEST_F(FrameButtons, ExitWithTheComputerOpenOnlySaysSo) {
   click(view().btnExit);
   EXPECT_EQ(messages(), QStringList({QStringLiteral("You must exit the computer before you can exit the game...")}));
   EXPECT_TRUE(CurrentSet);
+}
+
+// The music lies over the house, 40 pixels up and left of the picture's centre, and is only hidden
+// when closed.
+TEST_F(FrameButtons, TheStereoOpensTheMusicOverTheHouseAndKeepsItsLabel) {
+  ActiveComputerScreen = 1;
+  click(view().btnStereo);
+  EXPECT_TRUE(ui.shown().empty());
+  ActiveComputerScreen = 0;
+  const QPoint place = view().displayViewOnScreen().topLeft() + QPoint(316 - 160 - 40, 195 - 120 - 40);
+  ui.queueModal([place](QWidget& form) {
+    auto& music = dynamic_cast<SelectMusic&>(form);
+    EXPECT_EQ(music.pos(), place);
+    music.CurrentSelection->setText(QStringLiteral("Jazz 2"));
+    music.btnOK->click();
+  });
+  click(view().btnStereo);
+  ui.queueModal([](QWidget& form) {
+    EXPECT_EQ(dynamic_cast<SelectMusic&>(form).CurrentSelection->text(), QStringLiteral("Jazz 2"));
+    form.hide();
+  });
+  click(view().btnStereo);
+  EXPECT_EQ(ui.shown().size(), 2u);
 }
 
 TEST_F(FrameButtons, OnlyALowerCaseSOpensTheSetup) {

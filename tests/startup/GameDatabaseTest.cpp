@@ -123,7 +123,7 @@ TEST_F(GameDatabase, GetContainerEditsThisUsersRowOnly) {
 }
 
 TEST_F(GameDatabase, ListsComeInTheirAuthoredOrder) {
-  EXPECT_EQ(column(db->OpenRecordset(QStringLiteral("SELECT * FROM GetObjects WHERE \"Containers.Name\" = ?"), {QStringLiteral("showerhead")}),
+  EXPECT_EQ(column(db->OpenRecordset(QStringLiteral("SELECT * FROM GetObjects WHERE Containers.Name = ?"), {QStringLiteral("showerhead")}),
                    QStringLiteral("Objects.Name")),
             QStringList({QStringLiteral("Standard Shower Head"), QStringLiteral("Old Shower Head"),
                          QStringLiteral("WaterSense Shower Head"), QStringLiteral("Bucket")}));

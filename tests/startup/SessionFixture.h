@@ -3,6 +3,7 @@
 #include "mainview/ShotView.h"
 #include "platform/Database.h"
 #include "platform/SqlScript.h"
+#include "sound/SelectMusic.h"
 #include "startup/Globals.h"
 #include "startup/Splash.h"
 #include "startup/frmLogin.h"
@@ -66,6 +67,7 @@ class SessionFixture : public testing::Test {
   }
 
   void TearDown() override {
+    UnloadSelectMusic();
     loginForm().hide();
     newUserForm().hide();
     CurrentSet.reset();

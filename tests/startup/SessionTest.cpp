@@ -2,6 +2,7 @@
 
 #include "platform/ImagePair.h"
 #include "platform/PictureBox.h"
+#include "sound/SelectMusic.h"
 #include "startup/Session.h"
 
 #include <QGuiApplication>
@@ -56,7 +57,9 @@ TEST_F(Session, ExitSavesThePlayTimeAndTheNextPlayerStartsAfresh) {
   const i16 baseState = BaseStateADR;
   const i16 baseObject = BaseObjectADR;
   GameElapsedTime += 0.25f;
+  SelectMusicForm(TheShotView().displayViewOnScreen()).PieceIndex = 2;
   EndGame();
+  EXPECT_EQ(SelectMusicForm({}).PieceIndex, 0);  // the music dialog went with the session
   EXPECT_EQ(userRow(1).Field(QStringLiteral("ElapsedTime")).toSingle(), 0.75f);
   EXPECT_FALSE(CurrentSet);
   EXPECT_TRUE(TheSplash().isVisible());

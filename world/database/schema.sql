@@ -15,7 +15,8 @@
 -- 3. A saved query without parameters that returns rows can also be used like a table: the layer
 --    makes it a temporary view under its name when the database opens. Such a query gives each
 --    output column a distinct name, aliased exactly as the game reads it (GetObjects gives
---    "Objects.Name" and "Containers.Name").
+--    "Objects.Name" and "Containers.Name"). A statement on such a query may write a dotted
+--    name without quotes (WHERE Containers.Name = ?): the layer quotes it.
 -- 4. Every table that the game edits or adds rows to (Users, Shots, UserContainers,
 --    HomeCheckupAnswers) has ID INTEGER PRIMARY KEY, and every other column of it is nullable
 --    or has a DEFAULT: the layer inserts a row with DEFAULT VALUES at AddNew and fills it in at

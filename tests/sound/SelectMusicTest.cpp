@@ -1,6 +1,7 @@
 #include "platform/Failure.h"
 #include "platform/PictureButton.h"
 #include "sound/MusicDevice.h"
+#include "sound/MusicPieces.h"
 #include "sound/SelectMusic.h"
 
 #include "SoundFixture.h"
@@ -16,17 +17,10 @@ namespace {
 class MusicDialog : public SoundFixture {
  protected:
   MusicDialog() {
-    for (const MusicStyleFiles& style : kFiles)
-      for (const char* file : style) m_folder.write(QStringLiteral("Audio/") + QLatin1String(file), noteMidi(600));
+    for (const MusicStyle& style : kMusicStyles)
+      for (const MusicPiece& piece : style.pieces) m_folder.write(QStringLiteral("Audio/") + QLatin1String(piece.file), noteMidi(600));
   }
   ~MusicDialog() override { UnloadSelectMusic(); }
-
-  using MusicStyleFiles = std::array<const char*, 3>;
-  static constexpr std::array<MusicStyleFiles, 5> kFiles{{{"ROCK1.mid", "ROCK2.mid", "ROCK3.mid"},
-                                                          {"Jazz1.mid", "Jazz2.mid", "Jazz3.mid"},
-                                                          {"Classical1.mid", "Classical2.mid", "Classical3.mid"},
-                                                          {"Soul1.mid", "Soul2.mid", "Soul3.mid"},
-                                                          {"Country1.mid", "Country2.mid", "Country3.mid"}}};
 
   SelectMusic& dialog = SelectMusicForm({0, 0, 632, 390});
   // The piece on the music device, and the label's text.

@@ -20,6 +20,8 @@ packages=(
   timgm6mb-soundfont
   # running under a virtual display
   xvfb xauth
+  # reading printouts back in the tests
+  poppler-utils
   # benchmarks (make bench): Google Benchmark, and SQLite itself for the database floor
   libbenchmark-dev libsqlite3-dev
 )

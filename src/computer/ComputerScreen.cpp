@@ -1,8 +1,18 @@
 #include "computer/ComputerScreen.h"
 
+#include "computer/Comp_CleanAir.h"
+#include "computer/Comp_HomeCheckup.h"
+#include "computer/Comp_HowAmIDoing.h"
+
 namespace fh {
 
-// Not yet: the three screens (How Am I Doing, Clean Air, Home Checkup) arrive with their own units.
-ComputerScreen* ComputerScreenFor(i16) { return nullptr; }
+ComputerScreen* ComputerScreenFor(i16 number) {
+  switch (number) {
+    case 1: return &HowAmIDoingForm();
+    case 3: return &CleanAirForm();
+    case 4: return &HomeCheckupForm();
+    default: return nullptr;
+  }
+}
 
 }  // namespace fh

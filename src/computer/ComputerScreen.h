@@ -22,7 +22,7 @@ class ComputerScreen {
 };
 
 // The screen of this number in ActiveComputerScreen (1 How Am I Doing, 3 Clean Air, 4 Home Checkup),
-// made on first use; none for any other number, and none while that screen isn't built.
+// made on first use; none for any other number.
 ComputerScreen* ComputerScreenFor(i16 number);
 
 }  // namespace fh

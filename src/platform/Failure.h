@@ -22,6 +22,7 @@ enum class Failure : int {
   ObjectNotSet = 91,
   InvalidUseOfNull = 94,
   InvalidPicture = 481,
+  PrinterError = 482,
   UpdateWithoutEdit = 3020,
   NoCurrentRecord = 3021,
   DatabaseFileNotFound = 3024,

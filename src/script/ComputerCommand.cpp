@@ -29,6 +29,10 @@ void openScreen(i16 number) {
   QWidget& window = screen->window();
   window.move(viewCorner.x(), viewCorner.y() + kScreenDropBelowViewTop);
   window.show();
+  // A screen shown again keeps its old place in the stack, under the main view; without a window
+  // manager nobody else brings it to the front and gives it the keyboard.
+  window.raise();
+  window.activateWindow();
   screen->Init();
 }
 

@@ -104,9 +104,9 @@ Recordset& Comp_HomeCheckup::questions() {
   return *QuestionRS;
 }
 
-Recordset Comp_HomeCheckup::openAnswer() const {
+Recordset Comp_HomeCheckup::openAnswer() {
   return RequireGameDB().OpenRecordset(QStringLiteral("SELECT * FROM HomeCheckupAnswers WHERE \"User ID\" = ? AND \"Question ID\" = ?"),
-                                       {CurrentUserID, QuestionRS->Field(QStringLiteral("ID")).toLong()});
+                                       {CurrentUserID, questions().Field(QStringLiteral("ID")).toLong()});
 }
 
 // Walks back from the last question to the last one answered, whatever gaps lie before it.

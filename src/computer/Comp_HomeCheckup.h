@@ -48,7 +48,7 @@ class Comp_HomeCheckup final : public ComputerForm {
   void ShowQuestion();
   void SaveAnswer();
   // This player's answer to the current question: one row, or none.
-  Recordset openAnswer() const;
+  Recordset openAnswer();
   Recordset& questions();
 
   std::optional<Recordset> QuestionRS;

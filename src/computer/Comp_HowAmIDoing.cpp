@@ -53,6 +53,7 @@ Comp_HowAmIDoing::Comp_HowAmIDoing() : ComputerForm(QStringLiteral("Comp_HowAmID
   header->setStyleSheet(QStringLiteral("QHeaderView::section { background: rgb(64, 64, 64); color: white; border: 1px solid rgb(128, 128, 128); }"));
   Grid1->setStyleSheet(QStringLiteral("QTableWidget { background: white; gridline-color: rgb(192, 192, 192); }"));
   Grid1->setFont(ArialFont(8.25));
+  header->setFont(ArialFont(8.25));
 }
 
 void Comp_HowAmIDoing::Init() {

@@ -17,6 +17,7 @@ namespace {
 
 constexpr double kTwipsPerInch = 1440.0;
 constexpr double kPrintPoints = 9;
+constexpr double kSavedPageMargin = 15;  // millimetres
 
 QString& printoutFolder() {
   static QString folder;
@@ -79,6 +80,8 @@ Printout::Printout(const QString& title) : m_page(std::make_unique<Page>()) {
     m_page->savedPath = QDir(folder).filePath(fileNameFor(title));
     printer.setOutputFormat(QPrinter::PdfFormat);
     printer.setOutputFileName(m_page->savedPath);
+    // A printer keeps its own margins; a saved page gets the ones paper would have.
+    printer.setPageMargins(QMarginsF(kSavedPageMargin, kSavedPageMargin, kSavedPageMargin, kSavedPageMargin), QPageLayout::Millimeter);
   }
   printer.setDocName(title);
   if (!m_page->painter.begin(&printer)) {

@@ -7,6 +7,7 @@
 #include "platform/Values.h"
 #include "script/ContainerState.h"
 #include "startup/Globals.h"
+#include "world/SaveFailure.h"
 
 #include <QCheckBox>
 #include <QComboBox>
@@ -103,7 +104,9 @@ Comp_CleanAir::Comp_CleanAir() : ComputerForm(QStringLiteral("Comp_CleanAir"), Q
 
 void Comp_CleanAir::Init() {
   ignoringFailures([] { ActiveComputerScreen = kScreenNumber; });
-  ignoringFailures([] { SetContainer(QStringLiteral("CleanAir"), 1, false); });
+  // The one thing kept of the calculator: the opening's other failures pass unnoticed, but not a
+  // failure to keep that.
+  ignoringFailures([] { TellingSaveFailures([] { SetContainer(QStringLiteral("CleanAir"), 1, false); }); });
   ignoringFailures([this] {
     for (int i = 0; i < kItems; ++i) ItemPounds[static_cast<std::size_t>(i)] = kItemList[i].pounds;
   });

@@ -10,6 +10,7 @@
 #include "platform/Ui.h"
 #include "script/ContainerState.h"
 #include "startup/Globals.h"
+#include "world/SaveFailure.h"
 
 #include <QComboBox>
 #include <QDate>
@@ -89,8 +90,11 @@ Comp_HomeCheckup::Comp_HomeCheckup() : ComputerForm(QStringLiteral("Comp_HomeChe
   btnNext = place(new QPushButton(QStringLiteral("&Next"), this), "btnNext", twipsRect(3720, 4080, 5175, 615), ArialFont(12, true));
   // Enter moves on from wherever it is pressed, but on Previous itself.
   btnNext->setDefault(true);
-  connect(btnPrevious, &QPushButton::clicked, this, [this] { guarded("Home Checkup Previous", [this] { btnPrevious_Click(); }); });
-  connect(btnNext, &QPushButton::clicked, this, [this] { guarded("Home Checkup Next", [this] { NextQuestion(); }); });
+  // An answer the database won't keep is told, and the question stays on screen.
+  connect(btnPrevious, &QPushButton::clicked, this,
+          [this] { guarded("Home Checkup Previous", [this] { TellingSaveFailures([this] { btnPrevious_Click(); }); }); });
+  connect(btnNext, &QPushButton::clicked, this,
+          [this] { guarded("Home Checkup Next", [this] { TellingSaveFailures([this] { NextQuestion(); }); }); });
 
   setTabOrder(btnPrevious, btnNext);
   setTabOrder(btnNext, txtAnswer);

@@ -14,6 +14,7 @@
 #include "startup/FixedPictures.h"
 #include "startup/Globals.h"
 #include "startup/frmSetup.h"
+#include "world/SaveFailure.h"
 #include "world/cSet.h"
 #include "world/cShot.h"
 #include "world/cSprite.h"
@@ -185,11 +186,13 @@ void ShotView::loadWindow() {
     btnLeft->move(corner + QPoint(7, 440));
     btnRight->move(corner + QPoint(579, 440));
     for (ImagePair* button : {btnStereo, btnComputer, btnExit, btnLeft, btnRight}) button->setUpVisible(true);
+    // A move the database refuses to keep is told, and the game goes on; any other failure under
+    // these buttons is a failure of the program.
     btnStereo->onAction = [this] { btnStereo_Action(); };
-    btnComputer->onAction = [this] { btnComputer_Action(); };
+    btnComputer->onAction = [this] { TellingSaveFailures([this] { btnComputer_Action(); }); };
     btnExit->onAction = [] { btnExit_Action(); };
-    btnLeft->onAction = [this] { btnLeft_Action(); };
-    btnRight->onAction = [this] { btnRight_Action(); };
+    btnLeft->onAction = [this] { TellingSaveFailures([this] { btnLeft_Action(); }); };
+    btnRight->onAction = [this] { TellingSaveFailures([this] { btnRight_Action(); }); };
   });
   steps.run([this] {
     MeterAnim.Picture = WindowPixmap(QStringLiteral("Meter"));

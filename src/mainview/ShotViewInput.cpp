@@ -8,6 +8,7 @@
 #include "startup/frmSetup.h"
 #include "world/cHotSpot.h"
 #include "world/cSet.h"
+#include "world/SaveFailure.h"
 #include "world/cShot.h"
 
 #include <QKeyEvent>
@@ -31,10 +32,14 @@ std::shared_ptr<cHotSpot> hotSpotOfCurrentShot(i16 index) {
 void ShotView::HandleMouse(int message, i16 x, i16 y) {
   try {
     handleMouseUnguarded(message, x, y);
-  } catch (const RuntimeFailure&) {
+  } catch (const RuntimeFailure& failure) {
     // The only net under a clicked script: the rest of it is lost without a word, and the next tick
     // finds the hotspot under the pointer again. A film asked for by the television ends here.
     CurrentHotSpotIndex = -1;
+    // What the database refused to keep is no fault of the script, and the player must know it.
+    // A database file that is gone ends the game with its report: nothing more could be kept.
+    if (failure.kind() == Failure::DatabaseFileNotFound) throw;
+    if (IsSaveFailure(failure)) TellSaveFailed(failure);
   }
 }
 

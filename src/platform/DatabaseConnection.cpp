@@ -3,17 +3,30 @@
 #include "platform/Failure.h"
 #include "platform/FileNames.h"
 
+#include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QSqlError>
 #include <QSqlIndex>
 #include <QSqlRecord>
 #include <QUuid>
 
+#include <sys/stat.h>
+
 namespace fh {
 
 namespace {
 
 const QString kDriver = QStringLiteral("QSQLITE");
+// Long enough for another copy of the game, or a rebuild of the world, to finish its write; short
+// enough that a child isn't left looking at a frozen window.
+const QString kBusyTimeout = QStringLiteral("QSQLITE_BUSY_TIMEOUT=3000");
+
+FileIdentity identityOf(const QString& path) {
+  struct stat info {};
+  if (::stat(QFile::encodeName(path).constData(), &info) != 0) return {};
+  return {static_cast<unsigned long long>(info.st_dev), static_cast<unsigned long long>(info.st_ino)};
+}
 
 [[noreturn]] void failWith(const QSqlQuery& query, const QString& statement) {
   throw RuntimeFailure(Failure::DatabaseFailure, query.lastError().text() + QStringLiteral(" in: ") + statement);
@@ -32,12 +45,15 @@ DatabaseConnection::DatabaseConnection(const QString& designFileName)
   if (!QFileInfo(path).isFile()) throw RuntimeFailure(Failure::DatabaseFileNotFound, designFileName);
   QSqlDatabase db = QSqlDatabase::addDatabase(kDriver, m_connectionName);
   db.setDatabaseName(path);
+  db.setConnectOptions(kBusyTimeout);
   if (!db.open()) {
     const QString reason = db.lastError().text();
     db = QSqlDatabase();
     QSqlDatabase::removeDatabase(m_connectionName);
     throw RuntimeFailure(Failure::DatabaseFailure, designFileName + QStringLiteral(": ") + reason);
   }
+  m_path = path;
+  m_identity = identityOf(path);
   m_open = true;
   makeViewsOfSavedQueries();
 }
@@ -59,8 +75,24 @@ void DatabaseConnection::requireOpen() const {
   if (!m_open) throw RuntimeFailure(Failure::ObjectClosed, QStringLiteral("the database is closed"));
 }
 
+void DatabaseConnection::requireSameFile() const {
+  if (identityOf(m_path) == m_identity) return;
+  throw RuntimeFailure(Failure::DatabaseFileNotFound,
+                       QStringLiteral("%1 was removed or replaced while it was open, so nothing more can be saved in it")
+                           .arg(QDir::toNativeSeparators(m_path)));
+}
+
+QString DatabaseConnection::damage() const {
+  requireOpen();
+  QSqlQuery check(QSqlDatabase::database(m_connectionName, false));
+  if (!check.exec(QStringLiteral("PRAGMA quick_check"))) return check.lastError().databaseText();
+  const QString verdict = check.next() ? check.value(0).toString() : QStringLiteral("the check gave no answer");
+  return verdict == QLatin1String("ok") ? QString() : verdict;
+}
+
 QSqlQuery DatabaseConnection::run(const QString& statement, const QVariantList& values) const {
   requireOpen();
+  requireSameFile();
   QSqlQuery query(QSqlDatabase::database(m_connectionName, false));
   query.setForwardOnly(true);
   if (!query.prepare(statement)) failWith(query, statement);
@@ -71,12 +103,14 @@ QSqlQuery DatabaseConnection::run(const QString& statement, const QVariantList& 
 
 void DatabaseConnection::execute(const QString& statement) const {
   requireOpen();
+  requireSameFile();
   QSqlQuery query(QSqlDatabase::database(m_connectionName, false));
   if (!query.exec(statement)) failWith(query, statement);
 }
 
 QSqlQuery DatabaseConnection::runNamed(const QString& statement, const std::map<QString, QVariant>& placeholders) const {
   requireOpen();
+  requireSameFile();
   QSqlQuery query(QSqlDatabase::database(m_connectionName, false));
   query.setForwardOnly(true);
   if (!query.prepare(statement)) failWith(query, statement);

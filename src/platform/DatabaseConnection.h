@@ -19,6 +19,13 @@ struct SavedQuery {
   QString updateKey;       // the result column that holds the update table's ID
 };
 
+// Which file a path led to when it was opened: the same path may later lead to another.
+struct FileIdentity {
+  unsigned long long device = 0;
+  unsigned long long inode = 0;
+  bool operator==(const FileIdentity&) const = default;
+};
+
 // One open connection to the game's database. This is the only place that knows the driver and where
 // the database lies: the embedded SQLite file by default; a shared server can take its place here.
 class DatabaseConnection {
@@ -31,11 +38,16 @@ class DatabaseConnection {
 
   void close();
   bool isOpen() const { return m_open; }
+  // What is wrong with the file as the engine reads it, in its words; empty when it reads whole.
+  QString damage() const;
   // Fails with "Object invalid or no longer set" once the database is closed.
   void requireOpen() const;
 
   // Prepares, binds (positional values, or named ones for saved queries) and runs a statement;
-  // a statement the database refuses is "Database operation failed" with the database's words.
+  // a statement the database refuses is "Database operation failed" with the database's words. A
+  // database busy with another program's write is waited for a few seconds first. A file that has
+  // been removed or replaced since it was opened is "Could not find file": whatever was written
+  // now would be lost with the old file.
   QSqlQuery run(const QString& statement, const QVariantList& values = {}) const;
   // Runs a statement as it stands, with nothing to bind: for scripts that make the database.
   void execute(const QString& statement) const;
@@ -54,7 +66,11 @@ class DatabaseConnection {
  private:
   void makeViewsOfSavedQueries();
 
+  void requireSameFile() const;
+
   QString m_connectionName;
+  QString m_path;
+  FileIdentity m_identity;
   bool m_open = false;
   bool m_insertPending = false;
 };

@@ -184,9 +184,15 @@ void Recordset::Update() {
   try {
     if (!assignments.isEmpty()) {
       values << id;
-      d->connection->run(QStringLiteral("UPDATE %1 SET %2 WHERE %3 = ?")
-                             .arg(quotedName(d->target.table), assignments.join(QStringLiteral(", ")), quotedName(d->target.tableKey)),
-                         values);
+      const QSqlQuery update = d->connection->run(QStringLiteral("UPDATE %1 SET %2 WHERE %3 = ?")
+                                                      .arg(quotedName(d->target.table), assignments.join(QStringLiteral(", ")),
+                                                           quotedName(d->target.tableKey)),
+                                                  values);
+      // Another program removed the row meanwhile (a player taken out while still playing
+      // elsewhere): the change has nowhere to go, and that must not pass unnoticed.
+      if (update.numRowsAffected() == 0)
+        throw RuntimeFailure(Failure::DatabaseFailure,
+                             QStringLiteral("the row %1 %2 is no longer in table %3").arg(d->target.tableKey, id.toString(), d->target.table));
     }
     if (d->mode == EditMode::Adding) d->connection->endPendingInsert(true);
   } catch (const RuntimeFailure&) {

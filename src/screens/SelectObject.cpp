@@ -14,6 +14,7 @@
 #include "script/Dialogs.h"
 #include "sound/cSoundMgr.h"
 #include "startup/Globals.h"
+#include "world/SaveFailure.h"
 #include "world/cSet.h"
 
 #include <QLabel>
@@ -186,15 +187,19 @@ void SelectObject::btnOK_Click() {
   const QString chosen = objectList().Field(QStringLiteral("Objects.Name")).toText();
   RequireCurrentSet().GetContainer(ContainerName).CurrentObject = chosen;
 
-  Recordset row = containerQuery().OpenRecordset();
-  if (!row.IsEOF()) {
-    row.Edit();
-    row.SetField(QStringLiteral("CurrentObject"), chosen);
-    row.Update();
-    ShowDialogString(row.Field(QStringLiteral("Friendly Name")).toText() + QStringLiteral(" set to ") +
-                     row.Field(QStringLiteral("CurrentObject")).toText());
-  }
-  row.Close();
+  // A choice the database won't keep is told, and the screen closes all the same: the player
+  // mustn't be held in it while the database is out of reach.
+  TellingSaveFailures([this, &chosen] {
+    Recordset row = containerQuery().OpenRecordset();
+    if (!row.IsEOF()) {
+      row.Edit();
+      row.SetField(QStringLiteral("CurrentObject"), chosen);
+      row.Update();
+      ShowDialogString(row.Field(QStringLiteral("Friendly Name")).toText() + QStringLiteral(" set to ") +
+                       row.Field(QStringLiteral("CurrentObject")).toText());
+    }
+    row.Close();
+  });
 
   objectList().Close();
   ModalOpen = false;

@@ -3,6 +3,7 @@
 #include "mainview/ShotView.h"
 #include "platform/Database.h"
 #include "platform/Ui.h"
+#include "platform/WriteCheck.h"
 #include "script/Dialogs.h"
 #include "script/Interpreter.h"
 #include "sound/SelectMusic.h"
@@ -16,6 +17,8 @@
 namespace fh {
 
 namespace {
+
+const QString kDatabaseFile = QStringLiteral("Fernhollow.mdb");
 
 Recordset currentUserRow() {
   return RequireGameDB().OpenRecordset(QStringLiteral("SELECT * FROM Users WHERE ID = ?"), {CurrentUserID});
@@ -32,8 +35,16 @@ i16 firstValue(const QString& query, const QString& column, i16 otherwise) {
 }  // namespace
 
 void StartGame() {
+  // Nobody should play a game that can't be kept: that is found out before anyone logs in.
+  const QString unwritable = whyNotWritable(DatabasePath, kDatabaseFile);
+  if (!unwritable.isEmpty()) {
+    MsgBox(QStringLiteral("The game can't save in its database folder, so it can't start.\n\n") + unwritable +
+           QStringLiteral("\n\nAsk your teacher to let the game write there."));
+    TheSplash().showSplash();
+    return;
+  }
   // A login cancelled before leaves the database open; it is simply opened again.
-  GameDB = Database::OpenDatabase(DatabasePath + QStringLiteral("Fernhollow.mdb"));
+  GameDB = Database::OpenDatabase(DatabasePath + kDatabaseFile);
   if (!LoginUser()) {
     TheSplash().showSplash();
     return;
@@ -76,6 +87,13 @@ bool LoginUser() {
   GameElapsedTime = user.Field(QStringLiteral("ElapsedTime")).toSingle();
   UserHasWonGame = user.Field(QStringLiteral("HasWonGame")).toBool();
   user.Close();
+
+  // A world updated since the player's last game may have fixtures the player has no row for yet:
+  // they start as a new player's would.
+  QueryDef newContainers = RequireGameDB().QueryDefs(QStringLiteral("Make New User"));
+  newContainers.SetParameter(QStringLiteral("User ID"), id);
+  newContainers.Execute();
+  newContainers.Close();
   return true;
 }
 

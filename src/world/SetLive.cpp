@@ -24,6 +24,31 @@ void EndLiveSet(cSet& set) {
   if (ShotViewExists()) TheShotView().ClearSprites();
 }
 
+// Every container of the world as this user has it. A container this user has no row for keeps
+// the empty state and object.
+std::vector<std::shared_ptr<cContainer>> containersOfUser(Database& db) {
+  std::vector<std::shared_ptr<cContainer>> containers;
+  QueryDef query = db.QueryDefs(QStringLiteral("GetAllContainers"));
+  query.SetParameter(QStringLiteral("SelectUserID"), CurrentUserID);
+  Recordset rows = query.OpenRecordset();
+  for (; !rows.IsEOF(); rows.MoveNext()) {
+    auto container = std::make_shared<cContainer>();
+    container->Name = rows.Field(QStringLiteral("Name")).toText();
+    const FieldValue wiseState = rows.Field(QStringLiteral("WiseState"));
+    if (!wiseState.isNull()) container->WiseState = wiseState.toI16();
+    const FieldValue wiseObject = rows.Field(QStringLiteral("WiseObject"));
+    if (!wiseObject.isNull()) container->WiseObject = wiseObject.toText();
+    const FieldValue currentObject = rows.Field(QStringLiteral("CurrentObject"));
+    if (!currentObject.isNull()) container->CurrentObject = currentObject.toText();
+    const FieldValue currentState = rows.Field(QStringLiteral("CurrentState"));
+    if (!currentState.isNull()) container->CurrentState = currentState.toI16();
+    containers.push_back(std::move(container));
+  }
+  rows.Close();
+  query.Close();
+  return containers;
+}
+
 }  // namespace
 
 std::shared_ptr<cSprite> cSet::GetSpriteByName(const QString& lowerCaseName) const {
@@ -74,28 +99,22 @@ void cSet::LoadAssets() {
   }
   sprites.Close();
 
-  QueryDef query = db.QueryDefs(QStringLiteral("GetAllContainers"));
-  query.SetParameter(QStringLiteral("SelectUserID"), CurrentUserID);
-  Recordset rows = query.OpenRecordset();
-  for (; !rows.IsEOF(); rows.MoveNext()) {
-    auto container = std::make_shared<cContainer>();
-    container->Name = rows.Field(QStringLiteral("Name")).toText();
-    // A container this user has no row for keeps the empty state and object.
-    const FieldValue wiseState = rows.Field(QStringLiteral("WiseState"));
-    if (!wiseState.isNull()) container->WiseState = wiseState.toI16();
-    const FieldValue wiseObject = rows.Field(QStringLiteral("WiseObject"));
-    if (!wiseObject.isNull()) container->WiseObject = wiseObject.toText();
-    const FieldValue currentObject = rows.Field(QStringLiteral("CurrentObject"));
-    if (!currentObject.isNull()) container->CurrentObject = currentObject.toText();
-    const FieldValue currentState = rows.Field(QStringLiteral("CurrentState"));
-    if (!currentState.isNull()) container->CurrentState = currentState.toI16();
+  for (auto& container : containersOfUser(db)) {
     const QString key = container->Name.toLower();
     if (Containers.contains(key)) throw RuntimeFailure(Failure::InvalidCall, QStringLiteral("container '%1' twice").arg(key));
     Containers.emplace(key, std::move(container));
   }
-  rows.Close();
-  query.Close();
   view.GameClock.setEnabled(true);
+}
+
+// The objects stay the same, so that what holds one goes on holding it.
+void cSet::reloadContainers() {
+  for (const auto& saved : containersOfUser(RequireGameDB())) {
+    const auto found = Containers.find(saved->Name.toLower());
+    if (found == Containers.end()) continue;
+    found->second->CurrentState = saved->CurrentState;
+    found->second->CurrentObject = saved->CurrentObject;
+  }
 }
 
 i16 cSet::AddShot(const QString& name) {
@@ -125,6 +144,8 @@ void cSet::ShowShot(i16 index) {
   CurrentShotIndex = index;
   // Every move lands in the database at once: a crash loses nothing of the position.
   Recordset user = RequireGameDB().OpenRecordset(QStringLiteral("SELECT * FROM Users WHERE ID = ?"), {CurrentUserID});
+  // A player taken out at another screen while still playing here: the move has nowhere to go.
+  if (user.IsEOF()) throw RuntimeFailure(Failure::DatabaseFailure, QStringLiteral("player %1 is no longer in table Users").arg(CurrentUserID));
   user.Edit();
   user.SetField(QStringLiteral("Current Shot"), CurrentShotIndex);
   user.Update();

@@ -56,6 +56,8 @@ class cSet {
   cContainer& GetContainer(const QString& name) const;
   // Builds the sprites, with their places on the main view, and this user's containers.
   void LoadAssets();
+  // Takes this user's container states and objects again from the database.
+  void reloadContainers();
 
   // Appends a new shot of this name and gives its index.
   i16 AddShot(const QString& name);

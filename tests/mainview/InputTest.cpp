@@ -16,6 +16,11 @@
 #include <QCoreApplication>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QSqlDatabase>
+#include <QSqlQuery>
+
+#include <future>
+#include <thread>
 
 namespace fh::test {
 namespace {
@@ -98,6 +103,34 @@ class PlayInput : public LiveWorld {
 
 using ClickRoad = PlayInput;
 using FrameButtons = PlayInput;
+using SavingUnderAClick = PlayInput;
+
+// Another program that holds the database's write lock for a while, from a thread of its own.
+class LockHolder {
+ public:
+  LockHolder(const QString& file, int milliseconds) {
+    std::promise<void> locked;
+    std::future<void> taken = locked.get_future();
+    m_thread = std::thread([file, milliseconds, &locked] {
+      {
+        QSqlDatabase db = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), QStringLiteral("lock holder"));
+        db.setDatabaseName(file);
+        db.open();
+        QSqlQuery(db).exec(QStringLiteral("BEGIN EXCLUSIVE"));
+        locked.set_value();
+        std::this_thread::sleep_for(std::chrono::milliseconds(milliseconds));
+        QSqlQuery(db).exec(QStringLiteral("COMMIT"));
+        db.close();
+      }
+      QSqlDatabase::removeDatabase(QStringLiteral("lock holder"));
+    });
+    taken.wait();
+  }
+  ~LockHolder() { m_thread.join(); }
+
+ private:
+  std::thread m_thread;
+};
 
 TEST_F(ClickRoad, TheHoverTestWaitsForTheTickAndRunsTheRolloverOncePerEntry) {
   moveTo(30, 30);
@@ -216,6 +249,39 @@ TEST_F(ClickRoad, TheFrameIsHeardInPicturePixelsAndARightReleaseWaitsForTheLeft)
   EXPECT_TRUE(view().RightDown());
   onFrame(QEvent::MouseButtonRelease, {10, 20}, Qt::RightButton);
   EXPECT_FALSE(view().RightDown());
+}
+
+// A write waits a while for another program's; one that can't be made is told, and the house in
+// memory goes back to what the database holds.
+TEST_F(SavingUnderAClick, AWriteWaitsForABriefLockAndAFailedOneIsToldAndUndone) {
+  moveTo(30, 30);
+  tick();
+  {
+    LockHolder brief(data.at(QStringLiteral("Fernhollow.mdb")), 1000);
+    press(30, 30);
+  }
+  EXPECT_EQ(state("tap"), 0);
+  EXPECT_EQ(stored(QStringLiteral("CurrentState"), QStringLiteral("Tap")), 0);
+  EXPECT_TRUE(messages().isEmpty());
+
+  tick();
+  {
+    LockHolder tooLong(data.at(QStringLiteral("Fernhollow.mdb")), 4500);
+    press(30, 30);
+  }
+  EXPECT_EQ(state("tap"), 0);
+  ASSERT_EQ(messages().size(), 1);
+  EXPECT_TRUE(messages().front().startsWith(QStringLiteral("The game could not save your last change")));
+}
+
+// A player taken out at another screen while still playing here: the move has nowhere to go, and
+// the game says so and goes on.
+TEST_F(SavingUnderAClick, AMoveOfARemovedPlayerIsTold) {
+  row().Delete();
+  click(view().btnRight);
+  EXPECT_EQ(CurrentShot->sName, QStringLiteral("Hall"));
+  ASSERT_EQ(messages().size(), 1);
+  EXPECT_TRUE(messages().front().contains(QStringLiteral("player 1 is no longer in table Users"))) << messages().front().toStdString();
 }
 
 TEST_F(FrameButtons, TheArrowsTurnToTheNeighboursWithAClickAndAnEmptySideStays) {

@@ -4,6 +4,8 @@
 
 #include "TempFolder.h"
 
+#include <QFile>
+
 #include <gtest/gtest.h>
 
 using namespace fh;
@@ -185,6 +187,25 @@ TEST_F(DataLayer, ActionQueriesTakeParametersWithBlanksInTheirNames) {
   forget.Close();
   EXPECT_EQ(db->OpenRecordset(QStringLiteral("SELECT * FROM Holdings WHERE UserID = ?"), {1}).RecordCount(), 0);
   EXPECT_EQ(db->OpenRecordset(QStringLiteral("Holdings")).RecordCount(), 1);
+}
+
+// Another program may take the file away or put another in its place; writing on would lose it all.
+TEST_F(DataLayer, AFileRemovedOrReplacedWhileOpenIsNotWrittenInto) {
+  const QString file = folder.at(QStringLiteral("Game.mdb"));
+  ASSERT_TRUE(QFile::rename(file, file + QStringLiteral(".moved")));
+  ASSERT_TRUE(QFile::copy(file + QStringLiteral(".moved"), file));
+  EXPECT_EQ(failureOf([&] { db->OpenRecordset(QStringLiteral("Things")); }), Failure::DatabaseFileNotFound);
+}
+
+// A row that another program removed can't take a change: the write says so.
+TEST_F(DataLayer, AnEditOfARowRemovedMeanwhileFails) {
+  Recordset lamp = db->OpenRecordset(QStringLiteral("SELECT * FROM Things WHERE Name = 'Lamp'"));
+  db->OpenRecordset(QStringLiteral("SELECT * FROM Things WHERE Name = 'Lamp'")).Delete();
+  lamp.Edit();
+  lamp.SetField(QStringLiteral("Amount"), 9);
+  QString message;
+  EXPECT_EQ(failureOf([&] { lamp.Update(); }, &message), Failure::DatabaseFailure);
+  EXPECT_TRUE(message.contains(QStringLiteral("no longer in table Things"))) << message.toStdString();
 }
 
 TEST_F(DataLayer, MissingThingsFailAndSayWhatWasMissing) {

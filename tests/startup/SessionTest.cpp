@@ -4,6 +4,7 @@
 #include "platform/PictureBox.h"
 #include "sound/SelectMusic.h"
 #include "startup/Session.h"
+#include "world/cSet.h"
 
 #include <QGuiApplication>
 #include <QLabel>
@@ -40,6 +41,25 @@ TEST_F(Session, StartBringsThePlayerBackAtTheSavedShot) {
   ASSERT_TRUE(CurrentShot);
   EXPECT_EQ(CurrentShot->sName, QStringLiteral("Computer"));
   EXPECT_EQ(view.TextWindow->text(), QStringLiteral("The Computer"));  // the welcome gave way at once
+}
+
+// A world updated since the last game: the fixture new to Ann starts as a new player's would.
+TEST_F(Session, LoginGivesThePlayerTheFixturesAddedSinceTheLastGame) {
+  GameDB->OpenRecordset(QStringLiteral("SELECT * FROM UserContainers WHERE \"User ID\" = 1 AND Container = 'Bulb'")).Delete();
+  queueLogin(QStringLiteral("Ann"), QStringLiteral("secret"));
+  StartGame();
+  EXPECT_EQ(CurrentSet->GetContainer(QStringLiteral("bulb")).CurrentObject, QStringLiteral("Old bulb"));
+  EXPECT_TRUE(ui.messageBoxes().empty());
+}
+
+// Nobody plays a game that can't be kept: a folder the game can't write stops the Start at once.
+TEST_F(Session, StartInAFolderThatCantBeWrittenSaysSoBeforeTheLogin) {
+  DatabasePath = QStringLiteral("/proc/");
+  StartGame();
+  ASSERT_EQ(ui.shown().size(), 1u);
+  EXPECT_TRUE(ui.shown().front().text.startsWith(QStringLiteral("The game can't save in its database folder")));
+  EXPECT_TRUE(TheSplash().isVisible());
+  EXPECT_FALSE(ShotViewExists());
 }
 
 TEST_F(Session, CancelledLoginGoesBackToTheOpeningScreen) {

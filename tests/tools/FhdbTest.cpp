@@ -6,7 +6,9 @@
 
 #include "TempFolder.h"
 
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
 
 #include <gtest/gtest.h>
 
@@ -29,51 +31,95 @@ QString containers(const QString& names) {
   return sql;
 }
 
-TEST(FhdbBuild, ARebuildKeepsThePlayersAndGivesThemTheNewContainers) {
+// A player with the world's starting house, as the game adds one.
+int addPlayer(Database& db, const QString& name) {
+  Recordset users = db.OpenRecordset(QStringLiteral("Users"));
+  users.AddNew();
+  const int id = users.Field(QStringLiteral("ID")).toLong();
+  users.SetField(QStringLiteral("User Name"), name);
+  users.Update();
+  QueryDef make = db.QueryDefs(QStringLiteral("Make New User"));
+  make.SetParameter(QStringLiteral("User ID"), id);
+  make.Execute();
+  return id;
+}
+
+QByteArray bytesOf(const QString& file) {
+  QFile read(file);
+  return read.open(QIODevice::ReadOnly) ? read.readAll() : QByteArray();
+}
+
+class FhdbBuild : public testing::Test {
+ protected:
+  QStringList world(const char* containerNames) {
+    const QString rows = folder.write(QStringLiteral("%1.sql").arg(++m_sources), containers(QString::fromLatin1(containerNames)).toUtf8());
+    return {kWorld + QStringLiteral("schema.sql"), kWorld + QStringLiteral("queries.sql"), rows};
+  }
+  QStringList copies() const { return QDir(folder.path()).entryList({QStringLiteral("Fernhollow.mdb.*.bak")}, QDir::Files); }
+
   TempFolder folder;
   const QString target = folder.at(QStringLiteral("Fernhollow.mdb"));
-  const QString before = folder.write(QStringLiteral("before.sql"), containers(QStringLiteral("Tap Lamp")).toUtf8());
-  EXPECT_EQ(fhdb::buildDatabase(target, {kWorld + QStringLiteral("schema.sql"), kWorld + QStringLiteral("queries.sql"), before}).playersKept, 0);
-  {
-    auto db = Database::OpenDatabase(target);
-    Recordset users = db->OpenRecordset(QStringLiteral("Users"));
-    users.AddNew();
-    const int id = users.Field(QStringLiteral("ID")).toLong();
-    users.SetField(QStringLiteral("User Name"), QStringLiteral("Ann"));
-    users.Update();
-    QueryDef make = db->QueryDefs(QStringLiteral("Make New User"));
-    make.SetParameter(QStringLiteral("User ID"), id);
-    make.Execute();
-    QueryDef tap = db->QueryDefs(QStringLiteral("GetContainer"));
-    tap.SetParameter(QStringLiteral("SelectContainer"), QStringLiteral("tap"));
-    tap.SetParameter(QStringLiteral("SelectUserID"), id);
-    Recordset row = tap.OpenRecordset();
-    row.Edit();
-    row.SetField(QStringLiteral("CurrentState"), 0);
-    row.Update();
-  }
 
-  const QString after = folder.write(QStringLiteral("after.sql"), containers(QStringLiteral("Tap Lamp Fridge")).toUtf8());
-  EXPECT_EQ(fhdb::buildDatabase(target, {kWorld + QStringLiteral("schema.sql"), kWorld + QStringLiteral("queries.sql"), after}).playersKept, 1);
-  auto db = Database::OpenDatabase(target);
-  EXPECT_EQ(db->OpenRecordset(QStringLiteral("Users")).Field(QStringLiteral("User Name")).toText(), QStringLiteral("Ann"));
-  QueryDef state = db->QueryDefs(QStringLiteral("StateScore"));
-  state.SetParameter(QStringLiteral("SelectUserID"), 1);
+ private:
+  int m_sources = 0;
+};
+
+// The world is replaced inside the file: a game that has it open goes on in the new world.
+TEST_F(FhdbBuild, ARebuildKeepsThePlayersWithACopyAndGivesThemTheNewContainers) {
+  EXPECT_EQ(fhdb::buildDatabase(target, world("Tap Lamp")).playersKept, 0);
+  auto game = Database::OpenDatabase(target);
+  const int ann = addPlayer(*game, QStringLiteral("Ann"));
+  QueryDef tap = game->QueryDefs(QStringLiteral("GetContainer"));
+  tap.SetParameter(QStringLiteral("SelectContainer"), QStringLiteral("tap"));
+  tap.SetParameter(QStringLiteral("SelectUserID"), ann);
+  Recordset row = tap.OpenRecordset();
+  row.Edit();
+  row.SetField(QStringLiteral("CurrentState"), 0);
+  row.Update();
+
+  const fhdb::BuildReport report = fhdb::buildDatabase(target, world("Tap Lamp Fridge"));
+  EXPECT_EQ(report.playersKept, 1);
+  EXPECT_EQ(copies(), QStringList{QFileInfo(report.copyKept).fileName()});
+  QueryDef state = game->QueryDefs(QStringLiteral("StateScore"));
+  state.SetParameter(QStringLiteral("SelectUserID"), ann);
   EXPECT_EQ(state.OpenRecordset().Field(QStringLiteral("CountOfCurrentState")).toI16(), 2);  // Lamp and the new Fridge
-  EXPECT_EQ(db->OpenRecordset(QStringLiteral("UserContainers")).RecordCount(), 3);
+  EXPECT_EQ(game->OpenRecordset(QStringLiteral("UserContainers")).RecordCount(), 3);
   EXPECT_FALSE(QFile::exists(target + QStringLiteral(".new")));
 }
 
-TEST(FhdbBuild, ABrokenSourceLeavesTheOldFileAsItWas) {
-  TempFolder folder;
-  const QString target = folder.write(QStringLiteral("Fernhollow.mdb"), "the old file");
+// A removed player's ID is never given again, also not after a rebuild.
+TEST_F(FhdbBuild, IdsOfRemovedPlayersAreNeverGivenAgain) {
+  fhdb::buildDatabase(target, world("Tap"));
+  auto db = Database::OpenDatabase(target);
+  addPlayer(*db, QStringLiteral("Ann"));
+  const int bob = addPlayer(*db, QStringLiteral("Bob"));
+  Recordset gone = db->OpenRecordset(QStringLiteral("SELECT * FROM Users WHERE ID = ?"), {bob});
+  gone.Delete();
+  fhdb::buildDatabase(target, world("Tap"));
+  EXPECT_EQ(addPlayer(*db, QStringLiteral("Cleo")), bob + 1);
+}
+
+// A file that doesn't read as a game database is refused and left as it is, whatever it holds.
+TEST_F(FhdbBuild, AFileThatCantBeReadOrASourceThatFailsLeavesTheFileAsItWas) {
+  fhdb::buildDatabase(target, world("Tap"));
+  addPlayer(*Database::OpenDatabase(target), QStringLiteral("Ann"));
+  const QByteArray healthy = bytesOf(target);
+  const QByteArray unreadable[] = {QByteArray("the old file"), QByteArray(), healthy.left(healthy.size() / 2)};
+  for (const QByteArray& bytes : unreadable) {
+    folder.write(QStringLiteral("Fernhollow.mdb"), bytes);
+    QString err;
+    EXPECT_EQ(fhdb({QStringLiteral("create"), folder.path()}, nullptr, &err), 1);
+    EXPECT_TRUE(err.contains(QStringLiteral("can't be read as a game database"))) << err.toStdString();
+    EXPECT_EQ(bytesOf(target), bytes);
+  }
+
+  folder.write(QStringLiteral("Fernhollow.mdb"), healthy);
   const QString broken = folder.write(QStringLiteral("broken.sql"), "CREATE TABLE T (A);\nINSERT INTO Nowhere VALUES (1);\n");
   QString err;
   EXPECT_EQ(fhdb({QStringLiteral("create"), folder.path(), broken}, nullptr, &err), 1);
   EXPECT_TRUE(err.contains(broken + QStringLiteral(":2:"))) << err.toStdString();
-  QFile old(target);
-  ASSERT_TRUE(old.open(QIODevice::ReadOnly));
-  EXPECT_EQ(old.readAll(), QByteArray("the old file"));
+  EXPECT_EQ(bytesOf(target), healthy);
+  EXPECT_TRUE(copies().isEmpty());
 }
 
 TEST(FhdbCommands, QueriesPrintTheirRowsAndFailuresSayWhat) {

@@ -17,7 +17,8 @@ namespace {
 const char* const kUsage =
     "Usage:\n"
     "  fhdb create DIR [SQL ...]              build DIR/Fernhollow.mdb from SQL sources (the bundled\n"
-    "                                         world's when none are named); players in an old file are kept\n"
+    "                                         world's when none are named); players in an old file are kept,\n"
+    "                                         with a dated copy of it, and a file that can't be read is refused\n"
     "  fhdb query FILE NAME [Param=Value ...] print the rows of a saved query, a table or a SELECT statement\n"
     "  fhdb exec FILE NAME [Param=Value ...]  run an action query\n"
     "  fhdb users FILE                        list the players with their shot, play time and win\n"
@@ -125,6 +126,7 @@ int create(const QStringList& args, QTextStream& out) {
   out << "built " << target;
   if (report.playersKept > 0) out << ", keeping " << report.playersKept << (report.playersKept == 1 ? " player" : " players");
   out << '\n';
+  if (!report.copyKept.isEmpty()) out << "the file as it was is kept in " << report.copyKept << '\n';
   return 0;
 }
 
@@ -146,6 +148,9 @@ int runFhdb(const QStringList& arguments, QTextStream& out, QTextStream& err) {
   } catch (const UsageProblem& problem) {
     err << "fhdb: " << problem.text << "\n\n" << kUsage;
     return 2;
+  } catch (const DatabaseRefused& refusal) {
+    err << "fhdb: " << refusal.text << '\n';
+    return 1;
   } catch (const RuntimeFailure& failure) {
     err << "fhdb: " << failure.message() << '\n';
     return 1;

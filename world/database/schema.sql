@@ -44,8 +44,10 @@ CREATE TABLE StartUp (
 
 -- Players, one row each. The game adds a row with only "User Name", Password and "Current Shot"
 -- set, so the other columns need their defaults. Names are kept unique by the game, not here.
+-- An ID is never given twice, also not after its player was removed: a game still open for a
+-- removed player must not write into a new player's rows.
 CREATE TABLE Users (
-    ID              INTEGER PRIMARY KEY,            -- assigned on insert
+    ID              INTEGER PRIMARY KEY AUTOINCREMENT,  -- assigned on insert, never reused
     "User Name"     TEXT COLLATE NOCASE,            -- as typed, capitals kept
     Password        TEXT COLLATE NOCASE,            -- plain text
     "Current Shot"  INTEGER NOT NULL DEFAULT 0,     -- index of the player's shot in the set

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <functional>
+
+namespace fh {
+
+class RuntimeFailure;
+
+// Whether a failure is the database refusing to keep the player's progress (held by another
+// program for too long, a folder that can't be written, a row that is gone), rather than a fault
+// of the world or of a script.
+bool IsSaveFailure(const RuntimeFailure& failure);
+
+// Tells the player that the game could not save, and why, and takes the house in memory back to
+// what the database holds, so that the screen shows what is kept.
+void TellSaveFailed(const RuntimeFailure& failure);
+
+// Runs `step`. A failure to save is told as above and ends the step; any other failure goes on up.
+void TellingSaveFailures(const std::function<void()>& step);
+
+}  // namespace fh

@@ -37,8 +37,7 @@ void ShotView::HandleMouse(int message, i16 x, i16 y) {
     // finds the hotspot under the pointer again. A film asked for by the television ends here.
     CurrentHotSpotIndex = -1;
     // What the database refused to keep is no fault of the script, and the player must know it.
-    // A database file that is gone ends the game with its report: nothing more could be kept.
-    if (failure.kind() == Failure::DatabaseFileNotFound) throw;
+    if (IsLostDatabase(failure)) throw;
     if (IsSaveFailure(failure)) TellSaveFailed(failure);
   }
 }
@@ -94,9 +93,10 @@ void ShotView::MsgBlaster1_Message(int message, std::uint32_t param) {
 void ShotView::GameClock_Timer() {
   try {
     gameClockTick();
-  } catch (const RuntimeFailure&) {
+  } catch (const RuntimeFailure& failure) {
     // Silent, like the mouse's net: a hotspot index that went stale is healed by the next tick.
     CurrentHotSpotIndex = -1;
+    if (IsLostDatabase(failure)) throw;
   }
 }
 

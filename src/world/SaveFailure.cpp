@@ -10,6 +10,8 @@ namespace fh {
 
 bool IsSaveFailure(const RuntimeFailure& failure) { return failure.kind() == Failure::DatabaseFailure; }
 
+bool IsLostDatabase(const RuntimeFailure& failure) { return failure.kind() == Failure::DatabaseFileNotFound; }
+
 void TellSaveFailed(const RuntimeFailure& failure) {
   MsgBox(QStringLiteral("The game could not save your last change, so the house stays as it was saved before.\n\n") + failure.message());
   if (!CurrentSet) return;

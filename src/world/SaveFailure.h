@@ -11,6 +11,10 @@ class RuntimeFailure;
 // of the world or of a script.
 bool IsSaveFailure(const RuntimeFailure& failure);
 
+// Whether the database file went away under the game (removed or replaced): nothing more can be
+// kept, so even the silent nets let this one through, to end the game with its report.
+bool IsLostDatabase(const RuntimeFailure& failure);
+
 // Tells the player that the game could not save, and why, and takes the house in memory back to
 // what the database holds, so that the screen shows what is kept.
 void TellSaveFailed(const RuntimeFailure& failure);

@@ -3,6 +3,7 @@
 #include "mainview/ElapsedTimeText.h"
 #include "platform/CdPrompt.h"
 #include "platform/Failure.h"
+#include "platform/FileNames.h"
 #include "platform/Fonts.h"
 #include "platform/ImagePair.h"
 #include "platform/MediaDevice.h"
@@ -82,11 +83,11 @@ class LoadSteps {
       try {
         step();
         return;
-      } catch (const RuntimeFailure&) {
+      } catch (const RuntimeFailure& failure) {
         if (!m_setupShown) {
           m_setupShown = true;
           ui().showModal(setupForm());
-        } else if (AskForCd() == Answer::Cancel) {
+        } else if (AskForCd(failure) == Answer::Cancel) {
           EndProgram();
         }
       }
@@ -166,7 +167,9 @@ void ShotView::loadWindow() {
   steps.run([this] {
     BackPlane->setGeometry((width() - kFrameWidth) / 2, (height() - kFrameHeight) / 2, kFrameWidth, kFrameHeight);
   });
-  steps.run([this] { BackPlane->setPixmap(QPixmap::fromImage(LoadPicture(ResourcePath + QStringLiteral("graphics\\") + kFramePicture))); });
+  steps.run([this] {
+    BackPlane->setPixmap(QPixmap::fromImage(LoadPicture(fileInFolder(ResourcePath + QStringLiteral("graphics\\"), kFramePicture))));
+  });
   steps.run([this] {
     DisplayView->setGeometry(QRect(framePosition() + kShotPlace, kShotSize));
     Backdrop->setGeometry(DisplayView->geometry());
@@ -270,14 +273,15 @@ void ShotView::SetBackdrop(const QString& name, bool force) {
 }
 
 // The backdrop's load asks for the CD first and for the resource folder second, and can't be left:
-// it runs until the picture loads.
+// it runs until the picture loads. The setup form may move the tree, so each try starts from it.
 void ShotView::loadBackdrop(const QString& name) {
   for (;;) {
+    const QString folder = ResourcePath + QStringLiteral("graphics\\");
     try {
-      Backdrop->setPixmap(QPixmap::fromImage(LoadPicture(ResourcePath + QStringLiteral("graphics\\") + name)));
+      Backdrop->setPixmap(QPixmap::fromImage(LoadPicture(fileInFolder(folder, name))));
       return;
-    } catch (const RuntimeFailure&) {
-      if (AskForCd() == Answer::Cancel) ui().showModal(setupForm());
+    } catch (const RuntimeFailure& failure) {
+      if (AskForCd(failure, folder + name) == Answer::Cancel) ui().showModal(setupForm());
     }
   }
 }

@@ -15,6 +15,7 @@ ByteFile ByteFile::openForReading(const QString& designName) {
     throw RuntimeFailure(Failure::FileNotFound, designName);
   ByteFile result;
   result.m_bytes = file.readAll();
+  result.m_name = designName;
   return result;
 }
 
@@ -23,12 +24,14 @@ ByteFile ByteFile::openForWriting(const QString& designName) {
   if (!QFileInfo(QFileInfo(path).path()).isDir()) throw RuntimeFailure(Failure::PathNotFound, designName);
   ByteFile result;
   result.m_writePath = path;
+  result.m_name = designName;
   return result;
 }
 
-ByteFile ByteFile::fromBytes(QByteArray bytes) {
+ByteFile ByteFile::fromBytes(QByteArray bytes, QString name) {
   ByteFile result;
   result.m_bytes = std::move(bytes);
+  result.m_name = std::move(name);
   return result;
 }
 

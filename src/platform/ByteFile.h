@@ -19,8 +19,8 @@ class ByteFile {
   static ByteFile openForReading(const QString& designName);
   // Starts an empty file that close() writes to the path; the folder must exist ("Path not found").
   static ByteFile openForWriting(const QString& designName);
-  // Reads from bytes in memory, for tools and tests.
-  static ByteFile fromBytes(QByteArray bytes);
+  // Reads from bytes in memory, for tools and tests; `name` says where they came from.
+  static ByteFile fromBytes(QByteArray bytes, QString name = {});
 
   ByteFile(ByteFile&&) = default;
   ByteFile& operator=(ByteFile&&) = default;
@@ -53,6 +53,8 @@ class ByteFile {
   qsizetype size() const { return m_bytes.size(); }
   qsizetype remaining() const { return m_bytes.size() - m_position; }
   const QByteArray& bytes() const { return m_bytes; }
+  // The design name the file was opened by, for telling a player which file is meant.
+  const QString& name() const { return m_name; }
 
   // Writes what was put to the file; does nothing for a file opened for reading.
   void close();
@@ -63,6 +65,7 @@ class ByteFile {
   [[noreturn]] void failPastEnd();
 
   QByteArray m_bytes;
+  QString m_name;
   qsizetype m_position = 0;
   QString m_writePath;  // empty unless opened for writing and not yet closed
 };

@@ -32,10 +32,11 @@ class HideWatcher : public QObject {
 
 }  // namespace
 
-Answer DesktopUi::messageBox(const QString& text, Buttons buttons, const QString& title) {
+Answer DesktopUi::messageBox(const QString& text, Buttons buttons, const QString& title, const QString& details) {
   QMessageBox box(QMessageBox::NoIcon, title, text,
                   buttons == Buttons::OkCancel ? QMessageBox::Ok | QMessageBox::Cancel : QMessageBox::Ok);
   box.setDefaultButton(QMessageBox::Ok);
+  if (!details.isEmpty()) box.setDetailedText(details);
   return box.exec() == QMessageBox::Cancel ? Answer::Cancel : Answer::Ok;
 }
 

@@ -16,6 +16,7 @@ QString failureText(Failure kind) {
     case Failure::PathNotFound: return QStringLiteral("Path not found");
     case Failure::ObjectNotSet: return QStringLiteral("Object variable not set");
     case Failure::InvalidUseOfNull: return QStringLiteral("Invalid use of Null");
+    case Failure::InvalidFileFormat: return QStringLiteral("Invalid file format");
     case Failure::InvalidPicture: return QStringLiteral("Invalid picture");
     case Failure::PrinterError: return QStringLiteral("Printer error");
     case Failure::UpdateWithoutEdit: return QStringLiteral("Update or CancelUpdate without AddNew or Edit");

@@ -21,6 +21,7 @@ enum class Failure : int {
   PathNotFound = 76,
   ObjectNotSet = 91,
   InvalidUseOfNull = 94,
+  InvalidFileFormat = 321,
   InvalidPicture = 481,
   PrinterError = 482,
   UpdateWithoutEdit = 3020,
@@ -45,6 +46,8 @@ class RuntimeFailure : public std::exception {
 
   Failure kind() const { return m_kind; }
   int number() const { return static_cast<int>(m_kind); }
+  // What failed, where one is known: for a file that isn't there, its design name.
+  const QString& detail() const { return m_detail; }
   // The platform's words, and what failed where one is known: "Item not found (query 'GetAllSprites')".
   QString message() const;
   const char* what() const noexcept override { return m_what.c_str(); }

@@ -1,5 +1,7 @@
 #include "platform/FileNames.h"
 
+#include "platform/Failure.h"
+
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
@@ -68,6 +70,23 @@ bool fileExists(const QString& designName) {
 bool deleteFile(const QString& designName) {
   const QString path = resolveFileName(designName);
   return QFileInfo(path).isFile() && QFile::remove(path);
+}
+
+bool staysInFolder(const QString& name) {
+  if (isAbsolute(name)) return false;
+  if (name.size() >= 2 && name[1] == u':' && name[0].isLetter()) return false;
+  int depth = 0;
+  for (const QString& part : componentsOf(name)) {
+    if (part == u".") continue;
+    depth += part == u".." ? -1 : 1;
+    if (depth < 0) return false;
+  }
+  return true;
+}
+
+QString fileInFolder(const QString& folder, const QString& name) {
+  if (!staysInFolder(name)) throw RuntimeFailure(Failure::FileNotFound, folder + name);
+  return folder + name;
 }
 
 QString programFolder() { return QCoreApplication::applicationDirPath(); }

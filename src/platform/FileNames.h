@@ -18,6 +18,16 @@ QString firstMatchingFile(const QString& designPattern);
 
 bool fileExists(const QString& designName);
 
+// Whether a name from the world's data stays inside the folder it is looked for in. Such names
+// become file names under the resource tree, so none may lead elsewhere: not by a ".." that climbs
+// above the folder, nor as an absolute path or one with a drive letter, in either slash.
+bool staysInFolder(const QString& name);
+
+// The design name of `name` in `folder` (a design name ending in a separator). A name that doesn't
+// stay in the folder is "File not found", as a file that isn't there is, so that whatever the game
+// does about a missing file follows.
+QString fileInFolder(const QString& folder, const QString& name);
+
 // Deletes the file; false when there was none or it could not be deleted.
 bool deleteFile(const QString& designName);
 

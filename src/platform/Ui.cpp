@@ -19,8 +19,8 @@ Ui& ui() { return current ? *current : desktopUi(); }
 
 Ui* setUi(Ui* replacement) { return std::exchange(current, replacement); }
 
-Answer MsgBox(const QString& text, Buttons buttons, const QString& title) {
-  return ui().messageBox(text, buttons, title.isEmpty() ? kAppTitle : title);
+Answer MsgBox(const QString& text, Buttons buttons, const QString& title, const QString& details) {
+  return ui().messageBox(text, buttons, title.isEmpty() ? kAppTitle : title, details);
 }
 
 QString InputBox(const QString& prompt, const QString& title) {

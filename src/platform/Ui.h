@@ -20,8 +20,9 @@ class Ui {
  public:
   virtual ~Ui() = default;
 
-  // `title` is never empty here: MsgBox puts in the application's title.
-  virtual Answer messageBox(const QString& text, Buttons buttons, const QString& title) = 0;
+  // `title` is never empty here: MsgBox puts in the application's title. `details`, when there are
+  // any, stay folded away until the player asks for them.
+  virtual Answer messageBox(const QString& text, Buttons buttons, const QString& title, const QString& details) = 0;
   // The text typed, or empty text when the box was cancelled.
   virtual QString inputBox(const QString& prompt, const QString& title) = 0;
   // The keystrokes "{Home}+{End}": caret to the start, then select to the end.
@@ -39,8 +40,9 @@ Ui& ui();
 // Installs another Ui and returns the one it replaces; nullptr puts back the desktop's own.
 Ui* setUi(Ui* replacement);
 
-// A message box in the program's terms: OK alone unless told, the application's title unless given one.
-Answer MsgBox(const QString& text, Buttons buttons = Buttons::Ok, const QString& title = {});
+// A message box in the program's terms: OK alone unless told, the application's title unless given
+// one, and no details unless given some.
+Answer MsgBox(const QString& text, Buttons buttons = Buttons::Ok, const QString& title = {}, const QString& details = {});
 QString InputBox(const QString& prompt, const QString& title = {});
 void DoEvents();
 

@@ -3,6 +3,7 @@
 #include "platform/CdPrompt.h"
 #include "platform/Database.h"
 #include "platform/Failure.h"
+#include "platform/FileNames.h"
 #include "platform/Fonts.h"
 #include "platform/Guard.h"
 #include "platform/PictureButton.h"
@@ -122,7 +123,7 @@ void SelectObject::Init(const QString& containerName) {
 }
 
 // A step that fails here, a missing picture or a Null, is taken for a missing CD: OK tries again,
-// Cancel ends the program.
+// Cancel ends the program. A picture's failure names its file for the prompt.
 void SelectObject::ShowObject() {
   RetryWithCdPrompt([this] { showObjectOnce(); });
 }
@@ -142,7 +143,7 @@ void SelectObject::showObjectOnce() {
   if (imageFile.isEmpty())
     Image1->clear();
   else
-    Image1->setPixmap(QPixmap::fromImage(LoadPicture(ResourcePath + QStringLiteral("Graphics\\") + imageFile)));
+    Image1->setPixmap(QPixmap::fromImage(LoadPicture(fileInFolder(ResourcePath + QStringLiteral("Graphics\\"), imageFile))));
 }
 
 void SelectObject::btnLeft_Click() {

@@ -2,6 +2,7 @@
 
 #include "platform/CdPrompt.h"
 #include "platform/Failure.h"
+#include "platform/FileNames.h"
 #include "platform/Ui.h"
 #include "sound/MusicDevice.h"
 #include "sound/SoundControls.h"
@@ -16,7 +17,9 @@ const QString kMaximumSoundsText = QStringLiteral("Maximum number of sounds reac
 const QString kDigitalDisabledText = QStringLiteral(
     "Sound system is being used by another application or is not present.  Digital sounds will be disabled for this session.");
 
-QString audioPath(const QString& file) { return ResourcePath + QStringLiteral("Audio\\") + file; }
+QString audioFolder() { return ResourcePath + QStringLiteral("Audio\\"); }
+// A name that leaves the audio folder fails as a missing file would.
+QString audioPath(const QString& file) { return fileInFolder(audioFolder(), file); }
 
 }  // namespace
 
@@ -39,14 +42,15 @@ void cSoundMgr::Init() { Enable(); }
 void cSoundMgr::PlayMidi(const QString& file) {
   MediaDevice& music = MusicDevice();
   MidiChanging = true;
-  // Each step that fails asks for the CD and, with OK, runs again.
-  RetryWithCdPrompt([&] { music.Command(QStringLiteral("stop")); });
-  RetryWithCdPrompt([&] { music.Command(QStringLiteral("close")); });
+  // Each step that fails asks for the CD, naming the piece, and with OK runs again.
+  const QString piece = audioFolder() + file;
+  RetryWithCdPrompt([&] { music.Command(QStringLiteral("stop")); }, piece);
+  RetryWithCdPrompt([&] { music.Command(QStringLiteral("close")); }, piece);
   DoEvents();
-  music.FileName = audioPath(file);
+  RetryWithCdPrompt([&] { music.FileName = audioPath(file); }, piece);
   DoEvents();
-  RetryWithCdPrompt([&] { music.Command(QStringLiteral("open")); });
-  RetryWithCdPrompt([&] { music.Command(QStringLiteral("play")); });
+  RetryWithCdPrompt([&] { music.Command(QStringLiteral("open")); }, piece);
+  RetryWithCdPrompt([&] { music.Command(QStringLiteral("play")); }, piece);
   MidiChanging = false;
 }
 
@@ -90,7 +94,7 @@ bool cSoundMgr::LoadSound(const QString& file, const QString& soundName) {
   }
   if (!DigitalEnabled) return false;
   try {
-    const QString path = audioPath(file);
+    const QString path = audioFolder() + file;
     // One entry more than needed, keeping the old ones; after UnloadSounds this shrinks the list.
     m_sounds.resize(static_cast<std::size_t>(m_numSounds) + 2);
     SoundRecord& sound = m_sounds[static_cast<std::size_t>(m_numSounds)];
@@ -102,7 +106,7 @@ bool cSoundMgr::LoadSound(const QString& file, const QString& soundName) {
     device.Wait = false;
     device.Shareable = false;
     device.DeviceType = QStringLiteral("WaveAudio");
-    device.FileName = path;
+    device.FileName = audioPath(file);
     device.Command(QStringLiteral("Open"));
     ++m_numSounds;
     return true;

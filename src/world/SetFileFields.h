@@ -18,6 +18,8 @@ class ByteFile;
 // was keeps the leading blanks that the writer kept: the writer pads only on the right.
 struct SetReading {
   bool keepLeadingBlanks = false;
+  // The wrong tags met so far. A reading is of one file, so these are that file's.
+  mutable int mismatches = 0;
 };
 
 class cShot;
@@ -37,8 +39,9 @@ constexpr qsizetype kTextLength = 64;
 // Writes the tag's bare characters, whatever they are.
 void putTag(ByteFile& file, const QString& header);
 // Reads as many bytes as `header` holds back into it. Bytes that differ from `tag` show the
-// record's mismatch message; they stay in `header` and the reading goes on.
-void getTag(ByteFile& file, QString& header, const QString& tag, const QString& mismatchTitle);
+// record's mismatch message, which tells where in which file; they stay in `header` and the reading
+// goes on. The tenth wrong tag of a reading ends it: the file is damaged beyond reading.
+void getTag(ByteFile& file, QString& header, const QString& tag, const QString& mismatchTitle, const SetReading& reading);
 
 // A fixed text as the game holds it: blanks gone from both ends, or only from the right.
 QString getText(ByteFile& file, const SetReading& reading);

@@ -18,7 +18,7 @@ void cHotSpot::Save(ByteFile& file, const SetWriting&) const {
 }
 
 void cHotSpot::Load(ByteFile& file, const SetReading& reading) {
-  setfile::getTag(file, sHeader, QStringLiteral("HotSpot"), QStringLiteral("HotSpot header mismatch"));
+  setfile::getTag(file, sHeader, QStringLiteral("HotSpot"), QStringLiteral("HotSpot header mismatch"), reading);
   Left = file.getInteger();
   Top = file.getInteger();
   Height = file.getInteger();

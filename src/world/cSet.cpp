@@ -21,7 +21,7 @@ void cSet::Save(ByteFile& file, const SetWriting& writing) const {
 }
 
 void cSet::Load(ByteFile& file, const SetReading& reading) {
-  setfile::getTag(file, sHeader, QStringLiteral("Set"), QStringLiteral("Set header mismatch"));
+  setfile::getTag(file, sHeader, QStringLiteral("Set"), QStringLiteral("Set header mismatch"), reading);
   sName = setfile::getText(file, reading);
   nNumShots = file.getInteger();
   nCurrentShot = file.getInteger();

@@ -20,7 +20,7 @@ void cShot::Save(ByteFile& file, const SetWriting& writing) const {
 }
 
 void cShot::Load(ByteFile& file, const SetReading& reading) {
-  setfile::getTag(file, sHeader, QStringLiteral("Shot"), QStringLiteral("Shot header mismatch"));
+  setfile::getTag(file, sHeader, QStringLiteral("Shot"), QStringLiteral("Shot header mismatch"), reading);
   sName = setfile::getText(file, reading);
   ShotToLeft = setfile::getText(file, reading);
   ShotToRight = setfile::getText(file, reading);

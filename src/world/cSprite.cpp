@@ -3,6 +3,7 @@
 #include "mainview/ShotView.h"
 #include "platform/CdPrompt.h"
 #include "platform/Failure.h"
+#include "platform/FileNames.h"
 #include "platform/PictureBox.h"
 #include "platform/Pictures.h"
 #include "sound/cSoundMgr.h"
@@ -27,16 +28,19 @@ Timer& cSprite::timer() const {
 // Called for every sprite of the shot on every refresh, so a strip is only loaded when it changes.
 void cSprite::SetCels(const QString& celSource, const QString& sound) {
   if (celSource == m_celSource) return;
-  RetryWithCdPrompt([this] { Halt(); });
-  RetryWithCdPrompt([this, &celSource] {
-    cels().Picture = QPixmap::fromImage(LoadPicture(ResourcePath + QStringLiteral("Graphics\\") + celSource));
-  });
+  // Whichever step fails, the prompt names the strip that was being put in.
+  const QString folder = ResourcePath + QStringLiteral("Graphics\\");
+  const QString strip = folder + celSource;
+  RetryWithCdPrompt([this] { Halt(); }, strip);
+  RetryWithCdPrompt([this, &folder, &celSource] {
+    cels().Picture = QPixmap::fromImage(LoadPicture(fileInFolder(folder, celSource)));
+  }, strip);
   m_celSource = celSource;
   RetryWithCdPrompt([this] {
-    PictureClip& strip = cels();
-    strip.Rows = 1;
-    strip.Cols = NumFrames;
-  });
+    PictureClip& clip = cels();
+    clip.Rows = 1;
+    clip.Cols = NumFrames;
+  }, strip);
   m_sound = sound;
   Rewind();
 }

@@ -155,6 +155,26 @@ TEST_F(MainView, AMissingBackdropAsksForTheCdUntilItLoadsAndCancelOpensTheSetup)
   EXPECT_FALSE(surface(view).isNull());
 }
 
+// A picture outside the resource tree is never read: its name is a missing file, and the prompt
+// says which. The player gives up in the setup form.
+TEST_F(MainView, ABackdropNamedOutsideTheTreeIsAMissingFile) {
+  ShotView& view = TheShotView();
+  TempFolder tree;
+  QImage outside(8, 8, QImage::Format_RGB32);
+  outside.fill(Qt::red);
+  ASSERT_TRUE(outside.save(tree.at(QStringLiteral("outside.bmp")), "BMP"));
+  tree.makeFolder(QStringLiteral("res/Graphics"));
+  ResourcePath = tree.path() + QStringLiteral("/res/");
+  ScriptedUi ui{{Answer::Cancel}};
+  ui.queueModal([](QWidget& form) {
+    form.hide();
+    EndProgram();
+  });
+  EXPECT_THROW(view.SetBackdrop(QStringLiteral("..\\..\\outside.bmp"), false), ProgramEnded);
+  ASSERT_EQ(ui.messageBoxes().size(), 1u);
+  EXPECT_EQ(ui.messageBoxes()[0].details, QStringLiteral("Missing file: ") + ResourcePath + QStringLiteral("graphics\\..\\..\\outside.bmp"));
+}
+
 TEST_F(MainView, TheScoreSetsTheMetersSpeedAndAWinSaysWise) {
   ShotView& view = TheShotView();
   const std::pair<i16, int> intervals[] = {{100, 133}, {50, 550}, {1, 958}, {110, 50}, {40, 633}};

@@ -29,6 +29,14 @@ TEST(FileNameResolution, PrefersTheExactSpellingAndKeepsMissingPartsAsWritten) {
             tree.path() + QStringLiteral("/Audio/New Folder/Song.mid"));
 }
 
+TEST(NamesFromTheWorld, StayInTheirFolderOrAreMissingFiles) {
+  for (const char* name : {"Kitchen.bmp", "Rooms\\Kitchen.bmp", "Rooms/../Kitchen.bmp", ".\\Kitchen.bmp"})
+    EXPECT_TRUE(staysInFolder(QString::fromLatin1(name))) << name;
+  for (const char* name : {"..\\Kitchen.bmp", "Rooms/../../Kitchen.bmp", "/etc/passwd", "\\Windows\\win.ini",
+                           "\\\\server\\share\\a.bmp", "C:\\a.bmp", "c:a.bmp"})
+    EXPECT_FALSE(staysInFolder(QString::fromLatin1(name))) << name;
+}
+
 TEST(DirectoryQuery, FindsOrdinaryFilesOnly) {
   TempFolder tree;
   tree.makeFolder(QStringLiteral("Graphics/Sub"));

@@ -91,4 +91,23 @@ TEST_F(SoundManager, AMissingPieceAsksForTheCdUntilCancel) {
   ASSERT_EQ(boxes.size(), 2u);
   EXPECT_EQ(boxes.back().text, kInsertCdText);
   EXPECT_EQ(boxes.back().buttons, Buttons::OkCancel);
+  EXPECT_EQ(boxes.back().details, QStringLiteral("Missing file: ") + ResourcePath + QStringLiteral("Audio\\Jazz1.mid"));
+}
+
+// Sounds and pieces that lie outside the audio folder are never opened: they are missing files,
+// with all that follows from one.
+TEST_F(SoundManager, NamesOutsideTheAudioFolderAreMissingFiles) {
+  m_folder.write(QStringLiteral("outside.wav"), toneWave(50));
+  m_folder.write(QStringLiteral("outside.mid"), noteMidi(100));
+  ResourcePath = m_folder.path() + QStringLiteral("/tree\\");
+  m_folder.makeFolder(QStringLiteral("tree/Audio"));
+
+  EXPECT_FALSE(SoundMgr().LoadSound(QStringLiteral("..\\..\\outside.wav"), QStringLiteral("Outside")));
+  ASSERT_EQ(m_ui.messageBoxes().size(), 1u);
+  EXPECT_EQ(m_ui.messageBoxes().back().text, kDisabledText);
+
+  m_ui.queueAnswer(Answer::Cancel);
+  EXPECT_THROW(SoundMgr().PlayMidi(QStringLiteral("../../outside.mid")), ProgramEnded);
+  ASSERT_EQ(m_ui.messageBoxes().size(), 2u);
+  EXPECT_EQ(m_ui.messageBoxes().back().details, QStringLiteral("Missing file: ") + ResourcePath + QStringLiteral("Audio\\../../outside.mid"));
 }

@@ -20,8 +20,8 @@ std::vector<Shown> ScriptedUi::messageBoxes() const {
   return boxes;
 }
 
-Answer ScriptedUi::messageBox(const QString& text, Buttons buttons, const QString& title) {
-  m_shown.push_back({Shown::Kind::MessageBox, text, title, buttons});
+Answer ScriptedUi::messageBox(const QString& text, Buttons buttons, const QString& title, const QString& details) {
+  m_shown.push_back({Shown::Kind::MessageBox, text, title, buttons, details});
   if (onMessageBox) onMessageBox(text);
   if (m_answers.empty()) return Answer::Ok;
   const Answer answer = m_answers.front();

@@ -19,6 +19,7 @@ struct Shown {
   QString text;   // the message or prompt; the object name of a modal form or text box
   QString title;
   Buttons buttons = Buttons::Ok;
+  QString details;  // a message box's folded-away details
 };
 
 // Thrown when the program ends through the Ui, so that the test goes on behind the call.
@@ -49,7 +50,7 @@ class ScriptedUi final : public Ui {
   std::vector<Shown> messageBoxes() const;
   int yields() const { return m_yields; }
 
-  Answer messageBox(const QString& text, Buttons buttons, const QString& title) override;
+  Answer messageBox(const QString& text, Buttons buttons, const QString& title, const QString& details) override;
   QString inputBox(const QString& prompt, const QString& title) override;
   void selectAll(QLineEdit& box) override;
   void showModal(QWidget& form) override;

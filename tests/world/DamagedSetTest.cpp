@@ -57,6 +57,27 @@ TEST(HeaderMismatch, ForeignFileCascadesUntilItEnds) {
   EXPECT_EQ(titles[1], QStringLiteral("Shot header mismatch"));
 }
 
+// Each of the first nine is told and read past; the tenth is told too, and then the file is given up.
+TEST(HeaderMismatch, TheTenthInOneFileEndsTheReading) {
+  QByteArray zeros = savedBytes(makeSet(QStringLiteral("Z")));
+  zeros[67] = 20;  // twenty shots, all zeros
+  zeros += QByteArray(20 * cShot::kEmptyRecordSize, '\0');
+  ScriptedUi ui;
+  ByteFile file = ByteFile::fromBytes(zeros, QStringLiteral("C:\\Fernhollow\\Database\\Zeros.set"));
+  cSet set;
+  try {
+    set.Load(file);
+    FAIL() << "a file of zeros was read to its end";
+  } catch (const RuntimeFailure& failure) {
+    EXPECT_EQ(failure.kind(), Failure::InvalidFileFormat);
+    EXPECT_TRUE(failure.message().contains(QStringLiteral("C:\\Fernhollow\\Database\\Zeros.set is damaged"))) << failure.what();
+  }
+  EXPECT_EQ(mismatchTitles(ui), std::vector<QString>(10, QStringLiteral("Shot header mismatch")));
+  EXPECT_EQ(ui.messageBoxes()[0].details,
+            QStringLiteral("The record at byte 71 of C:\\Fernhollow\\Database\\Zeros.set should begin with \"Shot\"."));
+  EXPECT_TRUE(ui.messageBoxes()[9].details.startsWith(QStringLiteral("The record at byte 1871 of")));
+}
+
 TEST(DamagedFiles, EveryCutShortFileEndsInInputPastEndOfFile) {
   const QByteArray whole = savedBytes(sampleSet());
   for (qsizetype length = 0; length < whole.size(); ++length) {

@@ -77,6 +77,7 @@ TEST_F(Sprite, AMissingStripAsksForTheCdUntilItLoadsOrThePlayerGivesUp) {
   sprite.SetCels(QStringLiteral("Late.bmp"), QString());
   EXPECT_EQ(asked, 2);
   EXPECT_EQ(ui.messageBoxes().front().text, QStringLiteral("Please insert the Fernhollow Game CD into the CD-ROM drive."));
+  EXPECT_EQ(ui.messageBoxes().front().details, QStringLiteral("Missing file: ") + ResourcePath + QStringLiteral("Graphics\\Late.bmp"));
   EXPECT_EQ(sprite.CelSource(), QStringLiteral("Late.bmp"));
   ui.queueAnswer(Answer::Cancel);
   EXPECT_THROW(sprite.SetCels(QStringLiteral("Never.bmp"), QString()), ProgramEnded);

@@ -8,7 +8,7 @@ QuietUi::QuietUi() : m_previous(setUi(this)) {}
 
 QuietUi::~QuietUi() { setUi(m_previous); }
 
-Answer QuietUi::messageBox(const QString&, Buttons, const QString&) {
+Answer QuietUi::messageBox(const QString&, Buttons, const QString&, const QString&) {
   ++m_messageBoxes;
   return Answer::Ok;
 }

@@ -15,7 +15,7 @@ class QuietUi final : public Ui {
 
   int messageBoxes() const { return m_messageBoxes; }
 
-  Answer messageBox(const QString& text, Buttons buttons, const QString& title) override;
+  Answer messageBox(const QString& text, Buttons buttons, const QString& title, const QString& details) override;
   QString inputBox(const QString& prompt, const QString& title) override;
   void selectAll(QLineEdit& box) override;
   void showModal(QWidget& form) override;

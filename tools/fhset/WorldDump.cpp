@@ -173,7 +173,7 @@ class DumpWriter {
 
 Dump dumpSetFile(const QByteArray& bytes, const QString& fileName) {
   QuietUi quiet;  // a wrong header is a note in the text, not a message box
-  ByteFile file = ByteFile::fromBytes(bytes);
+  ByteFile file = ByteFile::fromBytes(bytes, fileName);
   cSet set;
   Ending ending;
   try {

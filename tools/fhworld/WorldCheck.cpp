@@ -35,6 +35,13 @@ std::shared_ptr<const cSet> readSet(const QString& path, const QString& name, Pr
   return set;
 }
 
+// A needed file ("Graphics/Kitchen.bmp") as the game finds it: a name that leads out of its folder
+// is missing to the game, wherever it points.
+bool isThere(const QString& root, const QString& neededPath) {
+  const QString name = neededPath.mid(neededPath.indexOf(u'/') + 1);
+  return staysInFolder(name) && fileExists(root + neededPath);
+}
+
 void count(const CheckContext& context, const ScriptCheck& scripts, WorldSummary& summary) {
   const WorldData& data = context.world.data;
   if (context.world.set) {
@@ -90,7 +97,7 @@ CheckResult checkWorld(const QString& databaseFolder, const QString& resourceFol
   if (!resourceFolder.isEmpty()) {
     const QString root = resourceFolder.endsWith(QLatin1Char('/')) ? resourceFolder : resourceFolder + QLatin1Char('/');
     for (const NeededFile& file : result.files.all()) {
-      if (!fileExists(root + file.path)) result.problems.addMissingFile(file.usedBy, file.path);
+      if (!isThere(root, file.path)) result.problems.addMissingFile(file.usedBy, file.path);
     }
   }
   count(context, scripts, result.summary);

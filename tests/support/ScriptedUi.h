@@ -19,7 +19,7 @@ struct Shown {
   QString text;   // the message or prompt; the object name of a modal form or text box
   QString title;
   Buttons buttons = Buttons::Ok;
-  QString details;  // a message box's folded-away details
+  QString details{};  // a message box's folded-away details
 };
 
 // Thrown when the program ends through the Ui, so that the test goes on behind the call.

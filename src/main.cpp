@@ -1,11 +1,13 @@
 #include "platform/Application.h"
 #include "platform/Guard.h"
 #include "startup/Main.h"
+#include "startup/TerminationHandling.h"
 
 #include <QWidget>
 
 int main(int argc, char** argv) {
   fh::Application app(argc, argv);
+  fh::handleTerminationRequests();
   fh::guarded("start-up", fh::Main);
 
   // The program ends through its windows; with none left up there is nothing to wait for.

@@ -14,6 +14,7 @@
 #include "sound/MusicDevice.h"
 #include "startup/FixedPictures.h"
 #include "startup/Globals.h"
+#include "startup/Session.h"
 #include "startup/frmSetup.h"
 #include "world/SaveFailure.h"
 #include "world/cSet.h"
@@ -40,6 +41,7 @@ const QPoint kShotPlace(4, 48);
 const QSize kShotSize(632, 390);
 const QPoint kMeterPlace(240, 0);
 constexpr int kMeterCells = 24;
+constexpr int kSecondsBetweenSaves = 60;
 
 i16 wholePixels(qreal position) { return toI16(static_cast<long long>(std::nearbyint(position))); }
 
@@ -288,7 +290,15 @@ void ShotView::loadBackdrop(const QString& name) {
 
 void ShotView::ElapsedTime_Timer() {
   if (!CurrentShot) return;
-  if (CurrentShot->GoElapsedTime && !ModalOpen && !UserHasWonGame) GameElapsedTime += 1.0f / 86400.0f;
+  if (CurrentShot->GoElapsedTime && !ModalOpen && !UserHasWonGame) {
+    GameElapsedTime += 1.0f / 86400.0f;
+    // Each minute of play goes into the player's row as it is played, so that a crash or a power cut
+    // loses no more than the last one.
+    if (++m_countedSeconds == kSecondsBetweenSaves) {
+      m_countedSeconds = 0;
+      keepPlayTime();
+    }
+  }
   ElapsedTimeView->setText(ElapsedTimeText(GameElapsedTime));
 }
 

@@ -76,6 +76,7 @@ class ShotView : public QWidget {
   i16 AddSprite();
   void ClearSprites();
   void SetBackdrop(const QString& name, bool force);
+  // The play-time tick, once a second. Every minute counted is also written to the player's row.
   void ElapsedTime_Timer();
   // The hover test, 13 times a second: lights the hotspot under the pointer and puts out the one it
   // left. It has its own silent net: a failure only forgets the lit hotspot.
@@ -133,6 +134,8 @@ class ShotView : public QWidget {
   i16 m_mouseY = 0;
   bool m_leftDown = false;
   bool m_rightDown = false;
+  // Seconds of play counted since the play time was last written.
+  int m_countedSeconds = 0;
   // Where the meter's cells are painted over the frame; hidden until the first tick paints one.
   QLabel* m_meterView = nullptr;
 };

@@ -50,6 +50,9 @@ AudioOutput& AudioOutput::instance() {
 
 void AudioOutput::open() {
   if (m_open) return;
+  // SDL would otherwise catch SIGINT and SIGTERM for an event queue that nobody reads, and the
+  // program would no longer end on them; the program's own handling of them stays in charge.
+  SDL_SetHint(SDL_HINT_NO_SIGNAL_HANDLERS, "1");
   if (SDL_InitSubSystem(SDL_INIT_AUDIO) != 0) throw RuntimeFailure(Failure::DeviceUnavailable, sdlError());
   // MIDI needs FluidSynth; wave sounds don't, and a piece of music that can't be read says so itself.
   Mix_Init(MIX_INIT_MID);

@@ -2,6 +2,7 @@
 
 #include "mainview/ShotView.h"
 #include "platform/Database.h"
+#include "platform/Failure.h"
 #include "platform/Ui.h"
 #include "platform/WriteCheck.h"
 #include "script/Dialogs.h"
@@ -11,6 +12,7 @@
 #include "startup/Globals.h"
 #include "startup/Splash.h"
 #include "startup/frmLogin.h"
+#include "world/SaveFailure.h"
 #include "world/SetFile.h"
 #include "world/cSet.h"
 
@@ -21,7 +23,10 @@ namespace {
 const QString kDatabaseFile = QStringLiteral("Fernhollow.mdb");
 
 Recordset currentUserRow() {
-  return RequireGameDB().OpenRecordset(QStringLiteral("SELECT * FROM Users WHERE ID = ?"), {CurrentUserID});
+  Recordset user = RequireGameDB().OpenRecordset(QStringLiteral("SELECT * FROM Users WHERE ID = ?"), {CurrentUserID});
+  // A player taken out at another screen while still playing here: the write has nowhere to go.
+  if (user.IsEOF()) throw RuntimeFailure(Failure::DatabaseFailure, QStringLiteral("player %1 is no longer in table Users").arg(CurrentUserID));
+  return user;
 }
 
 // The first row's column of a saved query, or `otherwise` when it gives no rows.
@@ -30,6 +35,20 @@ i16 firstValue(const QString& query, const QString& column, i16 otherwise) {
   const i16 value = rows.IsEOF() ? otherwise : rows.Field(column).toI16();
   rows.Close();
   return value;
+}
+
+// Set once the player has been told that a write of the play time failed; a write that works
+// again clears it, so that a later failure is told too.
+bool playTimeFailureTold = false;
+
+// The play time as it stands, into the player's row: every minute of play, and when the game ends.
+void writePlayTime() {
+  Recordset user = currentUserRow();
+  user.Edit();
+  user.SetField(QStringLiteral("ElapsedTime"), GameElapsedTime);
+  user.Update();
+  user.Close();
+  playTimeFailureTold = false;
 }
 
 }  // namespace
@@ -107,23 +126,35 @@ void SetWonGame() {
   user.Close();
 }
 
-void EndGame() {
-  ShotView& view = TheShotView();
-  view.StopVideo();
+bool gameBeingPlayed() { return CurrentSet != nullptr; }
+
+void keepPlayTime() {
+  try {
+    writePlayTime();
+  } catch (const RuntimeFailure& failure) {
+    // Only a write the database refused is the player's business; a file that is gone, or any other
+    // failure, ends the game with its report, as everywhere else.
+    if (!IsSaveFailure(failure)) throw;
+    // Once, not every minute: the player can't mend it, and the game is worth going on with.
+    if (playTimeFailureTold) return;
+    playTimeFailureTold = true;
+    MsgBox(QStringLiteral("The game could not save your play time just now.\n\n") + failure.message() +
+           QStringLiteral("\n\nYou can go on playing; it tries again every minute."));
+  }
+}
+
+void closeGame() {
+  TheShotView().StopVideo();
   // The music dialog's choice doesn't outlive the session; the music itself stops below.
   UnloadSelectMusic();
-
-  // Play time is written only here: a crash loses the time of this session and nothing else.
-  Recordset user = currentUserRow();
-  user.Edit();
-  user.SetField(QStringLiteral("ElapsedTime"), GameElapsedTime);
-  user.Update();
-  user.Close();
-
+  writePlayTime();
   SoundMgr().UnloadSounds();
   CurrentSet.reset();
   RequireGameDB().Close();
+}
 
+void EndGame() {
+  closeGame();
   // The main view stays loaded behind the opening screen, for the next player.
   TheSplash().showSplash();
 }

@@ -14,4 +14,15 @@ void SetWonGame();
 // Saves the play time, lets go of the world and the database, and shows the opening screen again.
 void EndGame();
 
+// EndGame without the opening screen: the film stopped, the play time written, the sounds, the world
+// and the database let go. For an end of the program that comes from outside.
+void closeGame();
+// Whether a game is being played: its world is loaded from the end of StartGame to EndGame. Play time
+// counts only then.
+bool gameBeingPlayed();
+// Writes the play time into the player's row while play goes on, so that a crash loses at most the
+// time since. A write the database refuses is told to the player once, and play goes on; any other
+// failure goes on up.
+void keepPlayTime();
+
 }  // namespace fh

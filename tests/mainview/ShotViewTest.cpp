@@ -209,30 +209,6 @@ TEST_F(MainView, TheMeterTurnsCellByCellOnlyOnceTheWindowHasBeenActivated) {
   view.hide();
 }
 
-TEST_F(MainView, PlayTimeCountsOnlyInTimedShotsWithNoBoxOpenAndBeforeTheWin) {
-  ShotView& view = TheShotView();
-  GameElapsedTime = 0;
-  view.ElapsedTime_Timer();  // no shot: nothing counts, nothing is shown
-  EXPECT_EQ(GameElapsedTime, 0.0f);
-
-  CurrentShot = std::make_shared<cShot>();
-  CurrentShot->GoElapsedTime = true;
-  for (int second = 0; second < 61; ++second) view.ElapsedTime_Timer();
-  EXPECT_EQ(view.ElapsedTimeView->text(), QStringLiteral("0:01:01"));
-  ModalOpen = true;
-  view.ElapsedTime_Timer();
-  ModalOpen = false;
-  CurrentShot->GoElapsedTime = false;
-  view.ElapsedTime_Timer();
-  CurrentShot->GoElapsedTime = true;
-  UserHasWonGame = true;
-  view.ElapsedTime_Timer();
-  EXPECT_EQ(view.ElapsedTimeView->text(), QStringLiteral("0:01:01"));
-  UserHasWonGame = false;
-  view.ElapsedTime_Timer();
-  EXPECT_EQ(view.ElapsedTimeView->text(), QStringLiteral("0:01:02"));
-}
-
 TEST_F(MainView, ExitRefusesWhileAComputerScreenIsOpen) {
   ShotView& view = TheShotView();
   ScriptedUi ui;

@@ -1,0 +1,17 @@
+#include "startup/TerminationHandling.h"
+
+#include "platform/TerminationRequests.h"
+#include "platform/Ui.h"
+#include "startup/Session.h"
+
+namespace fh {
+
+void handleTerminationRequests() {
+  onTerminationRequest([] {
+    // A computer screen that is open doesn't hold this up as it holds up Exit: nobody is there to close it.
+    if (gameBeingPlayed()) closeGame();
+    ui().quit(0);
+  });
+}
+
+}  // namespace fh

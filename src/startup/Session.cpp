@@ -51,6 +51,10 @@ void writePlayTime() {
   playTimeFailureTold = false;
 }
 
+void tellPlayTimeNotSaved(const RuntimeFailure& failure, const QString& after) {
+  MsgBox(QStringLiteral("The game could not save your play time just now.\n\n") + failure.message() + QStringLiteral("\n\n") + after);
+}
+
 }  // namespace
 
 void StartGame() {
@@ -138,8 +142,7 @@ void keepPlayTime() {
     // Once, not every minute: the player can't mend it, and the game is worth going on with.
     if (playTimeFailureTold) return;
     playTimeFailureTold = true;
-    MsgBox(QStringLiteral("The game could not save your play time just now.\n\n") + failure.message() +
-           QStringLiteral("\n\nYou can go on playing; it tries again every minute."));
+    tellPlayTimeNotSaved(failure, QStringLiteral("You can go on playing; it tries again every minute."));
   }
 }
 
@@ -147,7 +150,13 @@ void closeGame() {
   TheShotView().StopVideo();
   // The music dialog's choice doesn't outlive the session; the music itself stops below.
   UnloadSelectMusic();
-  writePlayTime();
+  // A play time the database won't take is told, and the game ends all the same.
+  try {
+    writePlayTime();
+  } catch (const RuntimeFailure& failure) {
+    if (!IsSaveFailure(failure)) throw;
+    tellPlayTimeNotSaved(failure, QStringLiteral("The game ends all the same."));
+  }
   SoundMgr().UnloadSounds();
   CurrentSet.reset();
   RequireGameDB().Close();

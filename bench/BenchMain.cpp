@@ -2,7 +2,7 @@
 #include "FloorTable.h"
 
 #include "QuietUi.h"
-#include "platform/Failure.h"
+#include "platform/base/Failure.h"
 
 #include <QApplication>
 

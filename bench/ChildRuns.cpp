@@ -2,8 +2,8 @@
 
 #include "BundledSession.h"
 
-#include "platform/Settings.h"
-#include "startup/Globals.h"
+#include "platform/files/Settings.h"
+#include "game/GameState.h"
 #include "startup/Main.h"
 #include "world/cSet.h"
 

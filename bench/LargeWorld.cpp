@@ -1,6 +1,6 @@
 #include "LargeWorld.h"
 
-#include "platform/ByteFile.h"
+#include "platform/files/ByteFile.h"
 #include "world/cHotSpot.h"
 #include "world/cShot.h"
 

@@ -3,9 +3,9 @@
 #include "SqliteFloor.h"
 
 #include "mainview/ShotView.h"
-#include "platform/PictureBox.h"
+#include "platform/desktop/PictureBox.h"
 #include "script/Interpreter.h"
-#include "startup/Globals.h"
+#include "game/GameState.h"
 #include "world/cHotSpot.h"
 #include "world/cSet.h"
 #include "world/cShot.h"

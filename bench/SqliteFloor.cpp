@@ -1,8 +1,8 @@
 #include "SqliteFloor.h"
 
 #include "BundledSession.h"
-#include "platform/Database.h"
-#include "startup/Globals.h"
+#include "platform/data/Database.h"
+#include "game/GameState.h"
 
 #include <sqlite3.h>
 

@@ -1,5 +1,6 @@
-#include "platform/Application.h"
-#include "platform/Guard.h"
+#include "platform/desktop/Application.h"
+#include "platform/base/Guard.h"
+#include "startup/Lending.h"
 #include "startup/Main.h"
 #include "startup/TerminationHandling.h"
 
@@ -8,6 +9,7 @@
 int main(int argc, char** argv) {
   fh::Application app(argc, argv);
   fh::handleTerminationRequests();
+  fh::LendWindows();
   fh::guarded("start-up", fh::Main);
 
   // The program ends through its windows; with none left up there is nothing to wait for.

@@ -1,12 +1,12 @@
 #include "computer/Comp_CleanAir.h"
 
-#include "platform/Failure.h"
-#include "platform/Fonts.h"
-#include "platform/Guard.h"
-#include "platform/Twips.h"
-#include "platform/Values.h"
+#include "platform/base/Failure.h"
+#include "platform/desktop/Fonts.h"
+#include "platform/base/Guard.h"
+#include "platform/base/Twips.h"
+#include "platform/base/Values.h"
 #include "script/ContainerState.h"
-#include "startup/Globals.h"
+#include "game/GameState.h"
 #include "world/SaveFailure.h"
 
 #include <QCheckBox>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "computer/ComputerForm.h"
-#include "platform/Recordset.h"
+#include "platform/data/Recordset.h"
 
 #include <array>
 #include <optional>

@@ -1,10 +1,10 @@
 #include "computer/ComputerForm.h"
 
-#include "platform/Failure.h"
-#include "platform/Printout.h"
-#include "platform/Ui.h"
-#include "script/Dialogs.h"
-#include "startup/Globals.h"
+#include "platform/base/Failure.h"
+#include "platform/desktop/Printout.h"
+#include "platform/base/Ui.h"
+#include "world/Dialogs.h"
+#include "game/GameState.h"
 
 #include <QApplication>
 #include <QDate>
@@ -29,6 +29,15 @@ ComputerForm::ComputerForm(const QString& name, const QString& caption, i16 numb
   white.setColor(QPalette::Window, Qt::white);
   setPalette(white);
   setAutoFillBackground(true);
+}
+
+// A screen shown again keeps its old place in the stack, under the main view; without a window
+// manager nobody else brings it to the front and gives it the keyboard.
+void ComputerForm::ShowAt(QPoint place) {
+  move(place);
+  show();
+  raise();
+  activateWindow();
 }
 
 // A message box or dialog that the game opens over the screen is no reason to come back over it.

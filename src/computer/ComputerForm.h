@@ -1,6 +1,6 @@
 #pragma once
 
-#include "computer/ComputerScreen.h"
+#include "game/Screens.h"
 
 #include <QDialog>
 
@@ -19,7 +19,7 @@ class ComputerForm : public QDialog, public ComputerScreen {
   // `number` is the screen's number in ActiveComputerScreen.
   ComputerForm(const QString& name, const QString& caption, i16 number);
 
-  QWidget& window() override { return *this; }
+  void ShowAt(QPoint place) override;
 
   // True while the screen prints: then it doesn't bring itself back.
   bool Printing = false;

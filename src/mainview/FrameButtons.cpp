@@ -1,13 +1,12 @@
 #include "mainview/ShotView.h"
 
-#include "platform/PictureBox.h"
-#include "platform/Ui.h"
+#include "platform/desktop/PictureBox.h"
+#include "platform/base/Ui.h"
 #include "script/ComputerCommand.h"
 #include "script/Interpreter.h"
-#include "sound/SelectMusic.h"
+#include "game/Screens.h"
 #include "sound/cSoundMgr.h"
-#include "startup/Globals.h"
-#include "startup/Session.h"
+#include "game/GameState.h"
 #include "world/cShot.h"
 
 // What the five picture buttons of the frame do when they are released. There is no net under them:
@@ -51,9 +50,7 @@ void ShotView::btnComputer_Action() {
 // The music dialog lies over the house, never over the computer.
 void ShotView::btnStereo_Action() {
   if (ActiveComputerScreen != 0) return;
-  SelectMusic& dialog = SelectMusicForm(displayViewOnScreen());
-  dialog.Palette = DisplayView->Picture();
-  ui().showModal(dialog);
+  ShowMusicDialog(pictureOnScreen(), picture());
 }
 
 void ShotView::btnExit_Action() {
@@ -61,7 +58,7 @@ void ShotView::btnExit_Action() {
     MsgBox(QStringLiteral("You must exit the computer before you can exit the game..."));
     return;
   }
-  EndGame();
+  EndSession();
 }
 
 }  // namespace fh

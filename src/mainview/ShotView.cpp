@@ -1,21 +1,21 @@
 #include "mainview/ShotView.h"
 
 #include "mainview/ElapsedTimeText.h"
-#include "platform/CdPrompt.h"
-#include "platform/Failure.h"
-#include "platform/FileNames.h"
-#include "platform/Fonts.h"
-#include "platform/ImagePair.h"
-#include "platform/MediaDevice.h"
-#include "platform/PictureBox.h"
-#include "platform/Pictures.h"
-#include "platform/Ui.h"
-#include "platform/WindowArt.h"
+#include "platform/desktop/CdPrompt.h"
+#include "platform/base/Failure.h"
+#include "platform/files/FileNames.h"
+#include "platform/desktop/Fonts.h"
+#include "platform/desktop/ImagePair.h"
+#include "platform/desktop/MediaDevice.h"
+#include "platform/desktop/PictureBox.h"
+#include "platform/desktop/Pictures.h"
+#include "platform/base/Ui.h"
+#include "platform/desktop/WindowArt.h"
 #include "sound/MusicDevice.h"
-#include "startup/FixedPictures.h"
-#include "startup/Globals.h"
-#include "startup/Session.h"
-#include "startup/frmSetup.h"
+#include "game/FixedPictures.h"
+#include "game/GameState.h"
+#include "game/Screens.h"
+#include "world/Players.h"
 #include "world/SaveFailure.h"
 #include "world/cSet.h"
 #include "world/cShot.h"
@@ -88,7 +88,7 @@ class LoadSteps {
       } catch (const RuntimeFailure& failure) {
         if (!m_setupShown) {
           m_setupShown = true;
-          ui().showModal(setupForm());
+          ShowSetup();
         } else if (AskForCd(failure) == Answer::Cancel) {
           EndProgram();
         }
@@ -103,6 +103,7 @@ class LoadSteps {
 }  // namespace
 
 ShotView::ShotView() : MMControl1(MusicDevice()) {
+  setView(this);
   setObjectName(QStringLiteral("ShotView"));
   setWindowTitle(QStringLiteral("Fernhollow"));
   setWindowFlags(Qt::Window | Qt::FramelessWindowHint);
@@ -154,7 +155,7 @@ ShotView::ShotView() : MMControl1(MusicDevice()) {
   MeterTimer.onTick = [this] { meterTick(); };
 }
 
-ShotView::~ShotView() = default;
+ShotView::~ShotView() { setView(nullptr); }
 
 void ShotView::loadWindow() {
   LoadSteps steps;
@@ -226,7 +227,31 @@ void ShotView::loadWindow() {
 
 QPoint ShotView::framePosition() const { return BackPlane->pos(); }
 
-QRect ShotView::displayViewOnScreen() const { return {DisplayView->mapToGlobal(QPoint(0, 0)), DisplayView->size()}; }
+QRect ShotView::pictureOnScreen() const { return {DisplayView->mapToGlobal(QPoint(0, 0)), DisplayView->size()}; }
+
+void ShotView::showText(const QString& text) { TextWindow->setText(text); }
+
+QString ShotView::shownText() const { return TextWindow->text(); }
+
+PictureClip& ShotView::spriteCels(i16 slot) {
+  if (slot < 0 || slot >= static_cast<int>(SpriteCels.size()))
+    throw RuntimeFailure(Failure::InvalidCall, QStringLiteral("SpriteCels(%1)").arg(slot));
+  return SpriteCels[static_cast<std::size_t>(slot)];
+}
+
+Timer& ShotView::spriteTimer(i16 slot) {
+  if (slot < 0 || slot >= static_cast<int>(SpriteTimer.size()))
+    throw RuntimeFailure(Failure::InvalidCall, QStringLiteral("SpriteTimer(%1)").arg(slot));
+  return *SpriteTimer[static_cast<std::size_t>(slot)];
+}
+
+void ShotView::paintOnPicture(const QPixmap& cel, int x, int y) { DisplayView->PaintPicture(cel, x, y); }
+
+int ShotView::pictureWidth() const { return DisplayView->width(); }
+
+const QPixmap& ShotView::picture() const { return DisplayView->Picture(); }
+
+void ShotView::setGameClockRunning(bool running) { GameClock.setEnabled(running); }
 
 void ShotView::SetScore(i16 score) {
   if (UserHasWonGame) {
@@ -283,7 +308,7 @@ void ShotView::loadBackdrop(const QString& name) {
       Backdrop->setPixmap(QPixmap::fromImage(LoadPicture(fileInFolder(folder, name))));
       return;
     } catch (const RuntimeFailure& failure) {
-      if (AskForCd(failure, folder + name) == Answer::Cancel) ui().showModal(setupForm());
+      if (AskForCd(failure, folder + name) == Answer::Cancel) ShowSetup();
     }
   }
 }

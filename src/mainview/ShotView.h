@@ -1,9 +1,10 @@
 #pragma once
 
-#include "platform/MessageHook.h"
-#include "platform/PictureClip.h"
-#include "platform/Timer.h"
-#include "platform/Values.h"
+#include "game/View.h"
+#include "platform/desktop/MessageHook.h"
+#include "platform/desktop/PictureClip.h"
+#include "platform/desktop/Timer.h"
+#include "platform/base/Values.h"
 
 #include <QString>
 #include <QWidget>
@@ -27,14 +28,13 @@ class PictureBox;
 class ShotView;
 ShotView& TheShotView();
 
-class ShotView : public QWidget {
+class ShotView : public QWidget, public GameView {
  public:
   ShotView();
   ~ShotView() override;
 
-  // Public fields.
+  // Public fields. CurrentHotSpotIndex comes with the view's surface for the logic.
   i16 nSpriteControls = 0;
-  i16 CurrentHotSpotIndex = -1;
 
   // Controls. Positions are pixels of the frame picture, from the top left corner of BackPlane.
   QLabel* BackPlane = nullptr;
@@ -69,13 +69,26 @@ class ShotView : public QWidget {
   // Public operations.
   // Films are switched off: this fails at once, before it looks at anything, and the failure ends the
   // script that asked for the film. The television's callers are written for that.
-  void PlayVideo(i16 x, i16 y, const QString& fileName);
-  void StopVideo();
-  void SetScore(i16 score);
-  void SetCursor(i16 number);
-  i16 AddSprite();
-  void ClearSprites();
-  void SetBackdrop(const QString& name, bool force);
+  void PlayVideo(i16 x, i16 y, const QString& fileName) override;
+  void StopVideo() override;
+  void SetScore(i16 score) override;
+  void SetCursor(i16 number) override;
+  i16 AddSprite() override;
+  void ClearSprites() override;
+  void SetBackdrop(const QString& name, bool force) override;
+
+  // The rest of the surface the logic draws on.
+  void showText(const QString& text) override;
+  QString shownText() const override;
+  // A slot that AddSprite hasn't given is an Invalid procedure call.
+  PictureClip& spriteCels(i16 slot) override;
+  Timer& spriteTimer(i16 slot) override;
+  void paintOnPicture(const QPixmap& cel, int x, int y) override;
+  int pictureWidth() const override;
+  const QPixmap& picture() const override;
+  // DisplayView's place on the screen, which the small windows centre themselves over.
+  QRect pictureOnScreen() const override;
+  void setGameClockRunning(bool running) override;
   // The play-time tick, once a second. Every minute counted is also written to the player's row.
   void ElapsedTime_Timer();
   // The hover test, 13 times a second: lights the hotspot under the pointer and puts out the one it
@@ -89,8 +102,6 @@ class ShotView : public QWidget {
 
   // The picture's top left corner in the window.
   QPoint framePosition() const;
-  // DisplayView's place on the screen, which the small windows centre themselves over.
-  QRect displayViewOnScreen() const;
   i16 MeterFrame() const { return m_meterFrame; }
   bool WindowActivated() const { return m_windowActivated; }
   const QString& CurrentBackdrop() const { return m_currentBackdrop; }

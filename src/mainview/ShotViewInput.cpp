@@ -1,11 +1,11 @@
 #include "mainview/ShotView.h"
 
-#include "platform/Failure.h"
-#include "platform/Guard.h"
-#include "platform/PictureBox.h"
-#include "platform/Ui.h"
-#include "startup/Globals.h"
-#include "startup/frmSetup.h"
+#include "platform/base/Failure.h"
+#include "platform/base/Guard.h"
+#include "platform/desktop/PictureBox.h"
+#include "platform/base/Ui.h"
+#include "game/GameState.h"
+#include "game/Screens.h"
 #include "world/cHotSpot.h"
 #include "world/cSet.h"
 #include "world/SaveFailure.h"
@@ -124,7 +124,7 @@ void ShotView::editDragStep(i16, i16) {}
 void ShotView::keyPressEvent(QKeyEvent* event) {
   const QString text = event->text();
   if (text.isEmpty() || text.at(0).unicode() != (u's' | u'S')) return;
-  guarded("key press", [] { ui().showModal(setupForm()); });
+  guarded("key press", [] { ShowSetup(); });
 }
 
 }  // namespace fh

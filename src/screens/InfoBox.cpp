@@ -1,13 +1,13 @@
 #include "screens/InfoBox.h"
 
-#include "platform/Database.h"
-#include "platform/Guard.h"
-#include "platform/PictureButton.h"
-#include "platform/RichTextBox.h"
-#include "platform/Twips.h"
-#include "platform/WindowArt.h"
+#include "platform/data/Database.h"
+#include "platform/base/Guard.h"
+#include "platform/desktop/PictureButton.h"
+#include "platform/desktop/RichTextBox.h"
+#include "platform/base/Twips.h"
+#include "platform/desktop/WindowArt.h"
 #include "screens/BoxLook.h"
-#include "startup/Globals.h"
+#include "game/GameState.h"
 
 #include <QLabel>
 

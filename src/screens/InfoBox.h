@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/PictureForm.h"
-#include "screens/ChoiceScreen.h"
+#include "platform/desktop/PictureForm.h"
+#include "game/Screens.h"
 
 class QLabel;
 

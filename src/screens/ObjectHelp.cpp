@@ -1,10 +1,10 @@
 #include "screens/ObjectHelp.h"
 
-#include "platform/Guard.h"
-#include "platform/PictureButton.h"
-#include "platform/RichTextBox.h"
-#include "platform/Twips.h"
-#include "platform/WindowArt.h"
+#include "platform/base/Guard.h"
+#include "platform/desktop/PictureButton.h"
+#include "platform/desktop/RichTextBox.h"
+#include "platform/base/Twips.h"
+#include "platform/desktop/WindowArt.h"
 #include "screens/BoxLook.h"
 
 namespace fh {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/PictureForm.h"
+#include "platform/desktop/PictureForm.h"
 
 class QLabel;
 

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "platform/PictureForm.h"
-#include "platform/Recordset.h"
-#include "platform/Values.h"
-#include "screens/ChoiceScreen.h"
+#include "platform/desktop/PictureForm.h"
+#include "platform/data/Recordset.h"
+#include "platform/base/Values.h"
+#include "game/Screens.h"
 
 #include <optional>
 

@@ -1,10 +1,10 @@
 #include "script/ChoiceBoxes.h"
 
-#include "mainview/ShotView.h"
-#include "platform/PictureBox.h"
-#include "platform/Ui.h"
-#include "screens/ChoiceScreen.h"
-#include "startup/Globals.h"
+#include "game/View.h"
+#include "platform/desktop/PictureBox.h"
+#include "platform/base/Ui.h"
+#include "game/Screens.h"
+#include "game/GameState.h"
 #include "world/cShot.h"
 
 namespace fh {
@@ -13,15 +13,15 @@ namespace {
 
 void showChoiceScreen(ChoiceScreen& screen, const QString& name) {
   screen.Init(name);
-  screen.TakePalette(TheShotView().DisplayView->Picture());
+  screen.TakePalette(view().picture());
   ui().showModal(screen.form());
   RequireCurrentShot().RefreshVisualElements(true);
 }
 
 }  // namespace
 
-void ShowInfoBox(const QString& name) { showChoiceScreen(InfoBoxScreen(TheShotView().displayViewOnScreen()), name); }
+void ShowInfoBox(const QString& name) { showChoiceScreen(InfoBoxScreen(view().pictureOnScreen()), name); }
 
-void ShowContainer(const QString& name) { showChoiceScreen(SelectObjectScreen(TheShotView().displayViewOnScreen()), name); }
+void ShowContainer(const QString& name) { showChoiceScreen(SelectObjectScreen(view().pictureOnScreen()), name); }
 
 }  // namespace fh

@@ -1,17 +1,17 @@
 #include "script/Commands.h"
 
-#include "mainview/ShotView.h"
-#include "platform/Failure.h"
+#include "game/View.h"
+#include "platform/base/Failure.h"
 #include "script/ChoiceBoxes.h"
 #include "script/ComputerCommand.h"
-#include "script/Condition.h"
+#include "world/Condition.h"
 #include "script/ContainerState.h"
-#include "script/Dialogs.h"
+#include "world/Dialogs.h"
 #include "script/GotoShot.h"
 #include "script/ScriptWords.h"
 #include "script/Television.h"
 #include "sound/cSoundMgr.h"
-#include "startup/Globals.h"
+#include "game/GameState.h"
 #include "world/SetFile.h"
 #include "world/cSet.h"
 #include "world/cShot.h"
@@ -87,7 +87,7 @@ i16 DoShowVideo(const ScriptWords& words) {
 }
 
 i16 DoStopVideo(const ScriptWords&) {
-  TheShotView().StopVideo();
+  view().StopVideo();
   return 0;
 }
 

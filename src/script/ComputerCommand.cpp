@@ -1,11 +1,8 @@
 #include "script/ComputerCommand.h"
 
-#include "computer/ComputerScreen.h"
-#include "mainview/ShotView.h"
-#include "platform/PictureBox.h"
-#include "startup/Globals.h"
-
-#include <QWidget>
+#include "game/Screens.h"
+#include "game/View.h"
+#include "game/GameState.h"
 
 namespace fh {
 
@@ -25,14 +22,7 @@ void openScreen(i16 number) {
   CloseComputer();
   ComputerScreen* screen = ComputerScreenFor(number);
   if (!screen) return;
-  const QPoint viewCorner = TheShotView().DisplayView->mapToGlobal(QPoint(0, 0));
-  QWidget& window = screen->window();
-  window.move(viewCorner.x(), viewCorner.y() + kScreenDropBelowViewTop);
-  window.show();
-  // A screen shown again keeps its old place in the stack, under the main view; without a window
-  // manager nobody else brings it to the front and gives it the keyboard.
-  window.raise();
-  window.activateWindow();
+  screen->ShowAt(view().pictureOnScreen().topLeft() + QPoint(0, kScreenDropBelowViewTop));
   screen->Init();
 }
 

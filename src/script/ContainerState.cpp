@@ -1,9 +1,9 @@
 #include "script/ContainerState.h"
 
-#include "platform/Database.h"
-#include "platform/Ui.h"
-#include "script/Dialogs.h"
-#include "startup/Globals.h"
+#include "platform/data/Database.h"
+#include "platform/base/Ui.h"
+#include "world/Dialogs.h"
+#include "game/GameState.h"
 #include "world/cContainer.h"
 #include "world/cSet.h"
 #include "world/cShot.h"

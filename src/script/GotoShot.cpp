@@ -1,6 +1,6 @@
 #include "script/GotoShot.h"
 
-#include "startup/Globals.h"
+#include "game/GameState.h"
 #include "world/cSet.h"
 
 namespace fh {

@@ -1,6 +1,6 @@
 #include "script/Interpreter.h"
 
-#include "platform/Ui.h"
+#include "platform/base/Ui.h"
 #include "script/Commands.h"
 #include "script/ScriptWords.h"
 

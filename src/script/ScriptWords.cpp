@@ -1,6 +1,6 @@
 #include "script/ScriptWords.h"
 
-#include "platform/Failure.h"
+#include "platform/base/Failure.h"
 
 namespace fh {
 

@@ -1,10 +1,10 @@
 #include "script/Television.h"
 
-#include "mainview/ShotView.h"
-#include "script/Condition.h"
+#include "game/View.h"
+#include "world/Condition.h"
 #include "script/ContainerState.h"
-#include "script/Dialogs.h"
-#include "startup/Globals.h"
+#include "world/Dialogs.h"
+#include "game/GameState.h"
 
 #include <array>
 
@@ -38,7 +38,7 @@ void ShowVideo(const QString& word) {
   const bool next = word == QLatin1StringView("next");
   const bool previous = word == QLatin1StringView("previous");
   if (!next && !previous) {
-    TheShotView().PlayVideo(kScreenX, kScreenY, word);
+    view().PlayVideo(kScreenX, kScreenY, word);
     return;
   }
   // From the start the first "next" gives channel 1 and the first "previous" channel 3: channel 0
@@ -54,7 +54,7 @@ void ShowVideo(const QString& word) {
   if (TVChannel < 0 || TVChannel > kLastChannel) return;
   const Channel& channel = kChannels[static_cast<std::size_t>(TVChannel)];
   ShowDialogString(channel.caption);
-  TheShotView().PlayVideo(kScreenX, kScreenY, channel.film);
+  view().PlayVideo(kScreenX, kScreenY, channel.film);
   // Never reached while films are switched off: PlayVideo fails above, so nothing in the game sets
   // this container. Kept for the day films play again.
   if (TVChannel == kChannel1) SetContainer(QStringLiteral("ReedmarshVideo"), 1, false);

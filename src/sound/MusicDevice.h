@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/MediaDevice.h"
+#include "platform/desktop/MediaDevice.h"
 
 namespace fh {
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/MediaDevice.h"
-#include "platform/Values.h"
+#include "platform/desktop/MediaDevice.h"
+#include "platform/base/Values.h"
 
 #include <QObject>
 

@@ -1,12 +1,12 @@
 #include "sound/cSoundMgr.h"
 
-#include "platform/CdPrompt.h"
-#include "platform/Failure.h"
-#include "platform/FileNames.h"
-#include "platform/Ui.h"
+#include "platform/desktop/CdPrompt.h"
+#include "platform/base/Failure.h"
+#include "platform/files/FileNames.h"
+#include "platform/base/Ui.h"
 #include "sound/MusicDevice.h"
 #include "sound/SoundControls.h"
-#include "startup/Globals.h"
+#include "game/GameState.h"
 
 namespace fh {
 
@@ -151,6 +151,11 @@ void cSoundMgr::UnloadSounds() {
     soundControls().MMControl1(m_numSounds).Command(QStringLiteral("close"));
   }
   m_numSounds = 0;
+}
+
+cSoundMgr& SoundMgr() {
+  static cSoundMgr instance;
+  return instance;
 }
 
 }  // namespace fh

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Values.h"
+#include "platform/base/Values.h"
 
 #include <QString>
 
@@ -61,5 +61,8 @@ class cSoundMgr {
   std::vector<SoundRecord> m_sounds;
   i16 m_numSounds = 0;
 };
+
+// The one sound manager, created on first use.
+cSoundMgr& SoundMgr();
 
 }  // namespace fh

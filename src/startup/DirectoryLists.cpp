@@ -1,6 +1,6 @@
 #include "startup/DirectoryLists.h"
 
-#include "platform/Guard.h"
+#include "platform/base/Guard.h"
 
 #include <QApplication>
 #include <QDir>

@@ -1,17 +1,18 @@
 #include "startup/Session.h"
 
 #include "mainview/ShotView.h"
-#include "platform/Database.h"
-#include "platform/Failure.h"
-#include "platform/Ui.h"
-#include "platform/WriteCheck.h"
-#include "script/Dialogs.h"
+#include "platform/data/Database.h"
+#include "platform/base/Failure.h"
+#include "platform/base/Ui.h"
+#include "platform/files/WriteCheck.h"
+#include "world/Dialogs.h"
 #include "script/Interpreter.h"
-#include "sound/SelectMusic.h"
+#include "screens/SelectMusic.h"
 #include "sound/cSoundMgr.h"
-#include "startup/Globals.h"
+#include "game/GameState.h"
 #include "startup/Splash.h"
 #include "startup/frmLogin.h"
+#include "world/Players.h"
 #include "world/SaveFailure.h"
 #include "world/SetFile.h"
 #include "world/cSet.h"
@@ -22,37 +23,12 @@ namespace {
 
 const QString kDatabaseFile = QStringLiteral("Fernhollow.mdb");
 
-Recordset currentUserRow() {
-  Recordset user = RequireGameDB().OpenRecordset(QStringLiteral("SELECT * FROM Users WHERE ID = ?"), {CurrentUserID});
-  // A player taken out at another screen while still playing here: the write has nowhere to go.
-  if (user.IsEOF()) throw RuntimeFailure(Failure::DatabaseFailure, QStringLiteral("player %1 is no longer in table Users").arg(CurrentUserID));
-  return user;
-}
-
 // The first row's column of a saved query, or `otherwise` when it gives no rows.
 i16 firstValue(const QString& query, const QString& column, i16 otherwise) {
   Recordset rows = RequireGameDB().OpenRecordset(query);
   const i16 value = rows.IsEOF() ? otherwise : rows.Field(column).toI16();
   rows.Close();
   return value;
-}
-
-// Set once the player has been told that a write of the play time failed; a write that works
-// again clears it, so that a later failure is told too.
-bool playTimeFailureTold = false;
-
-// The play time as it stands, into the player's row: every minute of play, and when the game ends.
-void writePlayTime() {
-  Recordset user = currentUserRow();
-  user.Edit();
-  user.SetField(QStringLiteral("ElapsedTime"), GameElapsedTime);
-  user.Update();
-  user.Close();
-  playTimeFailureTold = false;
-}
-
-void tellPlayTimeNotSaved(const RuntimeFailure& failure, const QString& after) {
-  MsgBox(QStringLiteral("The game could not save your play time just now.\n\n") + failure.message() + QStringLiteral("\n\n") + after);
 }
 
 }  // namespace
@@ -120,34 +96,10 @@ bool LoginUser() {
   return true;
 }
 
-void SetWonGame() {
-  if (UserHasWonGame) return;
-  UserHasWonGame = true;
-  Recordset user = currentUserRow();
-  user.Edit();
-  user.SetField(QStringLiteral("HasWonGame"), 1);
-  user.Update();
-  user.Close();
-}
-
 bool gameBeingPlayed() { return CurrentSet != nullptr; }
 
-void keepPlayTime() {
-  try {
-    writePlayTime();
-  } catch (const RuntimeFailure& failure) {
-    // Only a write the database refused is the player's business; a file that is gone, or any other
-    // failure, ends the game with its report, as everywhere else.
-    if (!IsSaveFailure(failure)) throw;
-    // Once, not every minute: the player can't mend it, and the game is worth going on with.
-    if (playTimeFailureTold) return;
-    playTimeFailureTold = true;
-    tellPlayTimeNotSaved(failure, QStringLiteral("You can go on playing; it tries again every minute."));
-  }
-}
-
 void closeGame() {
-  TheShotView().StopVideo();
+  view().StopVideo();
   // The music dialog's choice doesn't outlive the session; the music itself stops below.
   UnloadSelectMusic();
   // A play time the database won't take is told, and the game ends all the same.

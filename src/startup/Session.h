@@ -9,8 +9,6 @@ namespace fh {
 void StartGame();
 // Shows the login form and, when a player was chosen, takes over what is kept for them.
 bool LoginUser();
-// Records the win, once. Play goes on.
-void SetWonGame();
 // Saves the play time, lets go of the world and the database, and shows the opening screen again.
 void EndGame();
 
@@ -20,9 +18,5 @@ void closeGame();
 // Whether a game is being played: its world is loaded from the end of StartGame to EndGame. Play time
 // counts only then.
 bool gameBeingPlayed();
-// Writes the play time into the player's row while play goes on, so that a crash loses at most the
-// time since. A write the database refuses is told to the player once, and play goes on; any other
-// failure goes on up.
-void keepPlayTime();
 
 }  // namespace fh

@@ -1,12 +1,12 @@
 #include "startup/Splash.h"
 
-#include "platform/Failure.h"
-#include "platform/Fonts.h"
-#include "platform/ImagePair.h"
-#include "platform/Pictures.h"
-#include "platform/WindowArt.h"
-#include "startup/FixedPictures.h"
-#include "startup/Globals.h"
+#include "platform/base/Failure.h"
+#include "platform/desktop/Fonts.h"
+#include "platform/desktop/ImagePair.h"
+#include "platform/desktop/Pictures.h"
+#include "platform/desktop/WindowArt.h"
+#include "game/FixedPictures.h"
+#include "game/GameState.h"
 #include "startup/Session.h"
 
 #include <QGuiApplication>

@@ -1,8 +1,8 @@
 #include "startup/Users.h"
 
-#include "platform/Database.h"
-#include "platform/Ui.h"
-#include "startup/Globals.h"
+#include "platform/data/Database.h"
+#include "platform/base/Ui.h"
+#include "game/GameState.h"
 
 namespace fh {
 

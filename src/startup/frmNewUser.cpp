@@ -1,10 +1,10 @@
 #include "startup/frmNewUser.h"
 
-#include "platform/Guard.h"
-#include "platform/PictureButton.h"
-#include "platform/Twips.h"
-#include "platform/Ui.h"
-#include "platform/WindowArt.h"
+#include "platform/base/Guard.h"
+#include "platform/desktop/PictureButton.h"
+#include "platform/base/Twips.h"
+#include "platform/base/Ui.h"
+#include "platform/desktop/WindowArt.h"
 #include "startup/LoginLook.h"
 #include "startup/Users.h"
 

@@ -1,12 +1,12 @@
 #include "startup/frmSetup.h"
 
-#include "platform/Failure.h"
-#include "platform/Guard.h"
-#include "platform/Settings.h"
-#include "platform/Twips.h"
+#include "platform/base/Failure.h"
+#include "platform/base/Guard.h"
+#include "platform/files/Settings.h"
+#include "platform/base/Twips.h"
 #include "sound/cSoundMgr.h"
 #include "startup/DirectoryLists.h"
-#include "startup/Globals.h"
+#include "game/GameState.h"
 
 #include <QCloseEvent>
 #include <QLabel>

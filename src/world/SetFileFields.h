@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/Failure.h"
-#include "platform/Values.h"
+#include "platform/base/Failure.h"
+#include "platform/base/Values.h"
 
 #include <QString>
 

@@ -1,10 +1,11 @@
+#include "world/Players.h"
 #include "world/cSet.h"
 
-#include "mainview/ShotView.h"
-#include "platform/Database.h"
-#include "platform/Failure.h"
-#include "script/Dialogs.h"
-#include "startup/Globals.h"
+#include "game/View.h"
+#include "platform/data/Database.h"
+#include "platform/base/Failure.h"
+#include "world/Dialogs.h"
+#include "game/GameState.h"
 
 #include <algorithm>
 
@@ -21,7 +22,7 @@ void EndLiveSet(cSet& set) {
   set.Shots.clear();
   if (set.Sprites.empty()) return;
   set.Sprites.clear();
-  if (ShotViewExists()) TheShotView().ClearSprites();
+  if (hasView()) view().ClearSprites();
 }
 
 // Every container of the world as this user has it. A container this user has no row for keeps
@@ -73,9 +74,9 @@ cContainer& cSet::GetContainer(const QString& name) const {
 // The hover test is off while the tables are half built.
 void cSet::LoadAssets() {
   Database& db = RequireGameDB();
-  ShotView& view = TheShotView();
+  GameView& view = fh::view();
   m_endLife = EndLiveSet;
-  view.GameClock.setEnabled(false);
+  view.setGameClockRunning(false);
 
   Recordset sprites = db.OpenRecordset(QStringLiteral("GetAllSprites"));
   if (!sprites.IsEOF()) {
@@ -104,7 +105,7 @@ void cSet::LoadAssets() {
     if (Containers.contains(key)) throw RuntimeFailure(Failure::InvalidCall, QStringLiteral("container '%1' twice").arg(key));
     Containers.emplace(key, std::move(container));
   }
-  view.GameClock.setEnabled(true);
+  view.setGameClockRunning(true);
 }
 
 // The objects stay the same, so that what holds one goes on holding it.
@@ -137,19 +138,13 @@ void cSet::DeleteShot(i16 index) {
 
 void cSet::ShowShot(i16 index) {
   if (index == -1) return;
-  TheShotView().StopVideo();
+  view().StopVideo();
   m_endLife = EndLiveSet;
   nCurrentShot = index;
   CurrentShot = Shot(index);
   CurrentShotIndex = index;
   // Every move lands in the database at once: a crash loses nothing of the position.
-  Recordset user = RequireGameDB().OpenRecordset(QStringLiteral("SELECT * FROM Users WHERE ID = ?"), {CurrentUserID});
-  // A player taken out at another screen while still playing here: the move has nowhere to go.
-  if (user.IsEOF()) throw RuntimeFailure(Failure::DatabaseFailure, QStringLiteral("player %1 is no longer in table Users").arg(CurrentUserID));
-  user.Edit();
-  user.SetField(QStringLiteral("Current Shot"), CurrentShotIndex);
-  user.Update();
-  user.Close();
+  WriteUserField(QStringLiteral("Current Shot"), CurrentShotIndex);
   ShowDialogString(CurrentShot->FriendlyName());
   CurrentShot->RefreshVisualElements(true);
 }

@@ -1,7 +1,7 @@
 #include "world/cShot.h"
 
-#include "platform/Failure.h"
-#include "platform/Ui.h"
+#include "platform/base/Failure.h"
+#include "platform/base/Ui.h"
 #include "world/cHotSpot.h"
 
 // The hotspots of a shot as a list: the hit test, and what the scripts and the editor do to it.

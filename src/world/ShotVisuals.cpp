@@ -1,13 +1,13 @@
 #include "world/cShot.h"
 
-#include "mainview/ShotView.h"
-#include "platform/Database.h"
-#include "platform/Ui.h"
-#include "script/Condition.h"
-#include "startup/Session.h"
+#include "game/View.h"
+#include "platform/data/Database.h"
+#include "platform/base/Ui.h"
+#include "world/Condition.h"
+#include "world/Players.h"
 #include "world/Score.h"
 #include "world/cSet.h"
-#include "startup/Globals.h"
+#include "game/GameState.h"
 
 // What a shot looks like for this user: computed from the database each time it is shown or changed.
 namespace fh {
@@ -22,9 +22,9 @@ QString cShot::FriendlyName() const {
 
 // No hover test runs while the shot is half drawn, and no stale hotspot survives a refresh.
 void cShot::RefreshVisualElements(bool bChange) {
-  ShotView& view = TheShotView();
+  GameView& view = fh::view();
   view.CurrentHotSpotIndex = -1;
-  view.GameClock.setEnabled(false);
+  view.setGameClockRunning(false);
   RefreshScore();
   if (bChange) {
     QueryDef query = RequireGameDB().QueryDefs(QStringLiteral("SelectBackdrop"));
@@ -40,7 +40,7 @@ void cShot::RefreshVisualElements(bool bChange) {
     query.Close();
   }
   RefreshSprites(bChange);
-  view.GameClock.setEnabled(true);
+  view.setGameClockRunning(true);
 }
 
 namespace {
@@ -87,7 +87,7 @@ void cShot::RefreshSprites(bool bChange) {
 
 void cShot::RefreshScore() {
   const ScoreSums sums = ReadScoreSums(RequireGameDB(), CurrentUserID);
-  TheShotView().SetScore(ScoreFrom(sums, ScoreBaselines{.stateADR = BaseStateADR, .objectADR = BaseObjectADR}));
+  view().SetScore(ScoreFrom(sums, ScoreBaselines{.stateADR = BaseStateADR, .objectADR = BaseObjectADR}));
   // SetScore shows a won game as 1 whatever the sums say; the session marks the winner only once.
   if (CurrentScore == 1) SetWonGame();
 }

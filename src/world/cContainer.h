@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Values.h"
+#include "platform/base/Values.h"
 
 #include <QString>
 

@@ -1,6 +1,6 @@
 #include "world/cHotSpot.h"
 
-#include "platform/ByteFile.h"
+#include "platform/files/ByteFile.h"
 
 namespace fh {
 

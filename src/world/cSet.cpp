@@ -1,6 +1,6 @@
 #include "world/cSet.h"
 
-#include "platform/ByteFile.h"
+#include "platform/files/ByteFile.h"
 
 namespace fh {
 

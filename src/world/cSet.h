@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Values.h"
+#include "platform/base/Values.h"
 #include "world/SetFileFields.h"
 #include "world/cContainer.h"
 #include "world/cShot.h"

@@ -1,6 +1,6 @@
 #include "world/cShot.h"
 
-#include "platform/ByteFile.h"
+#include "platform/files/ByteFile.h"
 #include "world/cHotSpot.h"
 
 namespace fh {

@@ -1,29 +1,20 @@
 #include "world/cSprite.h"
 
-#include "mainview/ShotView.h"
-#include "platform/CdPrompt.h"
-#include "platform/Failure.h"
-#include "platform/FileNames.h"
-#include "platform/PictureBox.h"
-#include "platform/Pictures.h"
+#include "game/View.h"
+#include "platform/desktop/CdPrompt.h"
+#include "platform/base/Failure.h"
+#include "platform/files/FileNames.h"
+#include "platform/desktop/PictureClip.h"
+#include "platform/desktop/Timer.h"
+#include "platform/desktop/Pictures.h"
 #include "sound/cSoundMgr.h"
-#include "startup/Globals.h"
+#include "game/GameState.h"
 
 namespace fh {
 
-PictureClip& cSprite::cels() const {
-  std::vector<PictureClip>& all = TheShotView().SpriteCels;
-  if (SpriteIndex < 0 || SpriteIndex >= static_cast<int>(all.size()))
-    throw RuntimeFailure(Failure::InvalidCall, QStringLiteral("SpriteCels(%1)").arg(SpriteIndex));
-  return all[SpriteIndex];
-}
+PictureClip& cSprite::cels() const { return view().spriteCels(SpriteIndex); }
 
-Timer& cSprite::timer() const {
-  auto& all = TheShotView().SpriteTimer;
-  if (SpriteIndex < 0 || SpriteIndex >= static_cast<int>(all.size()))
-    throw RuntimeFailure(Failure::InvalidCall, QStringLiteral("SpriteTimer(%1)").arg(SpriteIndex));
-  return *all[SpriteIndex];
-}
+Timer& cSprite::timer() const { return view().spriteTimer(SpriteIndex); }
 
 // Called for every sprite of the shot on every refresh, so a strip is only loaded when it changes.
 void cSprite::SetCels(const QString& celSource, const QString& sound) {
@@ -68,7 +59,7 @@ void cSprite::Refresh() {
 }
 
 // Cels are opaque rectangles, copied as they are.
-void cSprite::Render() { TheShotView().DisplayView->PaintPicture(cels().GraphicCell(m_currentFrame), X, Y); }
+void cSprite::Render() { view().paintOnPicture(cels().GraphicCell(m_currentFrame), X, Y); }
 
 void cSprite::SetFrame(i16 frame) { m_currentFrame = frame; }
 
@@ -91,7 +82,7 @@ void cSprite::Rewind() {
 }
 
 i16 cSprite::SoundPan() const {
-  const int width = TheShotView().DisplayView->width();
+  const int width = view().pictureWidth();
   if (width == 0) throw RuntimeFailure(Failure::DivisionByZero, QStringLiteral("sound pan of sprite %1").arg(Name));
   return CInt(static_cast<double>(X) / width * -10000 + 5000);
 }

@@ -1,6 +1,6 @@
 #include "computer/CheckupPrintLayout.h"
 
-#include "platform/Failure.h"
+#include "platform/base/Failure.h"
 
 #include <gtest/gtest.h>
 

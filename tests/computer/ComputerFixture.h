@@ -2,7 +2,8 @@
 
 #include "LiveWorld.h"
 
-#include "platform/Printout.h"
+#include "computer/ComputerScreens.h"
+#include "platform/desktop/Printout.h"
 #include "script/ComputerCommand.h"
 #include "script/Interpreter.h"
 #include "world/SetFile.h"
@@ -20,6 +21,7 @@ class ComputerFixture : public LiveWorld {
     CurrentUserName = QStringLiteral("Ada");
     LoadSet(QStringLiteral("Small.set"));
     m_folderBefore = usePrintoutFolder(printouts.path());
+    LendComputerScreens();
   }
   void TearDown() override {
     CloseComputer();

@@ -1,9 +1,10 @@
 #include "mainview/ElapsedTimeText.h"
+#include "game/Screens.h"
 #include "mainview/ShotView.h"
-#include "platform/Failure.h"
-#include "platform/ImagePair.h"
-#include "platform/PictureBox.h"
-#include "startup/Globals.h"
+#include "platform/base/Failure.h"
+#include "platform/desktop/ImagePair.h"
+#include "platform/desktop/PictureBox.h"
+#include "game/GameState.h"
 #include "world/cShot.h"
 
 #include "ScriptedUi.h"
@@ -30,11 +31,18 @@ class MainView : public testing::Test {
     UserHasWonGame = false;
     ModalOpen = false;
     CurrentShot.reset();
+    // The setup dialog belongs to the start-up; a form of its name stands in for it here.
+    m_setup.setObjectName(QStringLiteral("frmSetup"));
+    screens().setup = [this] { ui().showModal(m_setup); };
   }
   void TearDown() override {
     UnloadShotView();
     CurrentShot.reset();
+    screens().setup = nullptr;
   }
+
+ private:
+  QWidget m_setup;
 };
 
 QImage surface(const ShotView& view) { return view.DisplayView->Image().toImage(); }

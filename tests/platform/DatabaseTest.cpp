@@ -1,6 +1,6 @@
-#include "platform/Database.h"
-#include "platform/Failure.h"
-#include "platform/SqlScript.h"
+#include "platform/data/Database.h"
+#include "platform/base/Failure.h"
+#include "platform/data/SqlScript.h"
 
 #include "TempFolder.h"
 

@@ -1,7 +1,7 @@
-#include "platform/Failure.h"
-#include "platform/Guard.h"
-#include "platform/Pictures.h"
-#include "platform/Ui.h"
+#include "platform/base/Failure.h"
+#include "platform/base/Guard.h"
+#include "platform/desktop/Pictures.h"
+#include "platform/base/Ui.h"
 
 #include "ScriptedUi.h"
 #include "TempFolder.h"

@@ -1,7 +1,7 @@
-#include "platform/Ansi.h"
-#include "platform/ByteFile.h"
-#include "platform/Failure.h"
-#include "platform/FileNames.h"
+#include "platform/base/Ansi.h"
+#include "platform/files/ByteFile.h"
+#include "platform/base/Failure.h"
+#include "platform/files/FileNames.h"
 
 #include "TempFolder.h"
 

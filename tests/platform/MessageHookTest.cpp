@@ -1,7 +1,7 @@
 #include "ScriptedUi.h"
-#include "platform/ImagePair.h"
-#include "platform/MessageHook.h"
-#include "platform/PictureBox.h"
+#include "platform/desktop/ImagePair.h"
+#include "platform/desktop/MessageHook.h"
+#include "platform/desktop/PictureBox.h"
 
 #include <QCoreApplication>
 #include <QLabel>

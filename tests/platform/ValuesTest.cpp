@@ -1,5 +1,5 @@
-#include "platform/Failure.h"
-#include "platform/Values.h"
+#include "platform/base/Failure.h"
+#include "platform/base/Values.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
-#include "platform/Failure.h"
-#include "platform/WindowArt.h"
+#include "platform/base/Failure.h"
+#include "platform/desktop/WindowArt.h"
 
 #include <QDir>
 #include <QImage>

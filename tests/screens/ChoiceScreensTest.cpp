@@ -1,15 +1,16 @@
 #include "LiveWorld.h"
 #include "SoundFiles.h"
 
-#include "platform/AudioOutput.h"
-#include "platform/CdPrompt.h"
-#include "platform/Failure.h"
-#include "platform/PictureButton.h"
-#include "platform/RichTextBox.h"
+#include "platform/desktop/AudioOutput.h"
+#include "platform/desktop/CdPrompt.h"
+#include "platform/base/Failure.h"
+#include "platform/desktop/PictureButton.h"
+#include "platform/desktop/RichTextBox.h"
 #include "screens/InfoBox.h"
+#include "screens/LendScreens.h"
 #include "screens/ObjectHelp.h"
 #include "screens/SelectObject.h"
-#include "script/Dialogs.h"
+#include "world/Dialogs.h"
 #include "script/Interpreter.h"
 #include "sound/SoundControls.h"
 #include "sound/cSoundMgr.h"
@@ -36,6 +37,7 @@ class ChoiceScreens : public LiveWorld {
     ASSERT_TRUE(SoundMgr().LoadSound(QStringLiteral("Switch.wav"), QStringLiteral("Switch")));
     LoadSet(QStringLiteral("Small.set"));
     ModalOpen = false;
+    LendChoiceScreens();
   }
   void TearDown() override {
     SoundMgr().UnloadSounds();
@@ -74,7 +76,7 @@ using InitMessages = ChoiceScreens;
 using InfoBoxes = ChoiceScreens;
 
 TEST_F(ObjectRing, OpensOnTheStandingObjectAndWalksRoundBothWaysWithTheSwitch) {
-  const QPoint centred = view().displayViewOnScreen().topLeft() + QPoint(632 / 2 - 320 / 2, 390 / 2 - 240 / 2);
+  const QPoint centred = view().pictureOnScreen().topLeft() + QPoint(632 / 2 - 320 / 2, 390 / 2 - 240 / 2);
   choose("shower", [centred](SelectObject& screen) {
     EXPECT_EQ(screen.geometry(), QRect(centred, QSize(320, 240)));
     EXPECT_EQ(screen.ObjectName->text(), QStringLiteral("Standard Head"));

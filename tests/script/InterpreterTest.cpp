@@ -1,9 +1,9 @@
 #include "ScriptedUi.h"
-#include "platform/Failure.h"
-#include "script/Condition.h"
+#include "platform/base/Failure.h"
+#include "world/Condition.h"
 #include "script/Interpreter.h"
 #include "script/ScriptWords.h"
-#include "startup/Globals.h"
+#include "game/GameState.h"
 
 #include <QStringList>
 

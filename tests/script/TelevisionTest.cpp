@@ -1,8 +1,8 @@
 #include "LiveWorld.h"
 
-#include "platform/Failure.h"
+#include "platform/base/Failure.h"
 #include "script/ContainerState.h"
-#include "script/Dialogs.h"
+#include "world/Dialogs.h"
 #include "script/Interpreter.h"
 #include "world/SetFile.h"
 

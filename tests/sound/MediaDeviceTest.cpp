@@ -1,6 +1,6 @@
-#include "platform/AudioOutput.h"
-#include "platform/Failure.h"
-#include "platform/MediaDevice.h"
+#include "platform/desktop/AudioOutput.h"
+#include "platform/base/Failure.h"
+#include "platform/desktop/MediaDevice.h"
 
 #include "SoundFiles.h"
 #include "TempFolder.h"

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "platform/AudioOutput.h"
+#include "platform/desktop/AudioOutput.h"
 #include "sound/SoundControls.h"
 #include "sound/cSoundMgr.h"
-#include "startup/Globals.h"
+#include "game/GameState.h"
 
 #include "ScriptedUi.h"
 #include "SoundFiles.h"

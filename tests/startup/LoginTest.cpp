@@ -1,6 +1,6 @@
 #include "SessionFixture.h"
 
-#include "platform/ImagePair.h"
+#include "platform/desktop/ImagePair.h"
 
 #include <QCoreApplication>
 #include <QKeyEvent>

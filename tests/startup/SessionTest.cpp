@@ -1,9 +1,10 @@
 #include "SessionFixture.h"
 
-#include "platform/ImagePair.h"
-#include "platform/PictureBox.h"
-#include "sound/SelectMusic.h"
+#include "platform/desktop/ImagePair.h"
+#include "platform/desktop/PictureBox.h"
+#include "screens/SelectMusic.h"
 #include "startup/Session.h"
+#include "world/Players.h"
 #include "world/cSet.h"
 
 #include <QGuiApplication>
@@ -77,7 +78,7 @@ TEST_F(Session, ExitSavesThePlayTimeAndTheNextPlayerStartsAfresh) {
   const i16 baseState = BaseStateADR;
   const i16 baseObject = BaseObjectADR;
   GameElapsedTime += 0.25f;
-  SelectMusicForm(TheShotView().displayViewOnScreen()).PieceIndex = 2;
+  SelectMusicForm(TheShotView().pictureOnScreen()).PieceIndex = 2;
   EndGame();
   EXPECT_EQ(SelectMusicForm({}).PieceIndex, 0);  // the music dialog went with the session
   EXPECT_EQ(userRow(1).Field(QStringLiteral("ElapsedTime")).toSingle(), 0.75f);

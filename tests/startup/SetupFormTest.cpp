@@ -1,5 +1,5 @@
 #include "startup/DirectoryLists.h"
-#include "startup/Globals.h"
+#include "game/GameState.h"
 #include "startup/frmSetup.h"
 
 #include "ScriptedUi.h"

@@ -1,5 +1,5 @@
-#include "platform/Printout.h"
-#include "platform/Settings.h"
+#include "platform/desktop/Printout.h"
+#include "platform/files/Settings.h"
 
 #include <QApplication>
 #include <QTemporaryDir>

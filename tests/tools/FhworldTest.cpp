@@ -3,7 +3,7 @@
 #include "WorldBuild.h"
 #include "WorldCheck.h"
 
-#include "platform/ByteFile.h"
+#include "platform/files/ByteFile.h"
 #include "script/ScriptWords.h"
 #include "world/cHotSpot.h"
 #include "world/cSet.h"

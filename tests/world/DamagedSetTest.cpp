@@ -1,7 +1,7 @@
 #include "WorldFixtures.h"
 
 #include "ScriptedUi.h"
-#include "platform/Failure.h"
+#include "platform/base/Failure.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 #include "LiveWorld.h"
 
-#include "platform/Failure.h"
+#include "platform/base/Failure.h"
 #include "world/SetFile.h"
 #include "world/cSet.h"
 

@@ -5,10 +5,10 @@
 #include "ScriptedUi.h"
 #include "TempFolder.h"
 #include "mainview/ShotView.h"
-#include "platform/Database.h"
-#include "platform/PictureBox.h"
-#include "platform/SqlScript.h"
-#include "startup/Globals.h"
+#include "platform/data/Database.h"
+#include "platform/desktop/PictureBox.h"
+#include "platform/data/SqlScript.h"
+#include "game/GameState.h"
 #include "world/Score.h"
 
 #include <QImage>

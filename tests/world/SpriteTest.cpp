@@ -1,6 +1,6 @@
 #include "LiveWorld.h"
 
-#include "platform/Failure.h"
+#include "platform/base/Failure.h"
 #include "world/cSprite.h"
 
 namespace fh::test {

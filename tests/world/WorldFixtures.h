@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/ByteFile.h"
+#include "platform/files/ByteFile.h"
 #include "world/cHotSpot.h"
 #include "world/cSet.h"
 #include "world/cShot.h"

@@ -4,7 +4,7 @@
 #include "SharedPalette.h"
 #include "SvgPicture.h"
 
-#include "platform/FileUpdate.h"
+#include "platform/files/FileUpdate.h"
 
 #include <QDir>
 #include <QFileInfo>

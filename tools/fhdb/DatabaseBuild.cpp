@@ -1,8 +1,8 @@
 #include "DatabaseBuild.h"
 
-#include "platform/DatabaseConnection.h"
-#include "platform/Failure.h"
-#include "platform/SqlScript.h"
+#include "platform/data/DatabaseConnection.h"
+#include "platform/base/Failure.h"
+#include "platform/data/SqlScript.h"
 
 #include <QDateTime>
 #include <QDir>

@@ -2,9 +2,9 @@
 
 #include "DatabaseBuild.h"
 
-#include "platform/Database.h"
-#include "platform/Failure.h"
-#include "platform/Values.h"
+#include "platform/data/Database.h"
+#include "platform/base/Failure.h"
+#include "platform/base/Values.h"
 
 #include <QDir>
 #include <QFileInfo>

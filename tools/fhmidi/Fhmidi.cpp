@@ -3,7 +3,7 @@
 #include "MidiFile.h"
 #include "MusicSource.h"
 
-#include "platform/FileUpdate.h"
+#include "platform/files/FileUpdate.h"
 
 #include <QDir>
 #include <QFile>

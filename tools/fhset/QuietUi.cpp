@@ -1,6 +1,6 @@
 #include "QuietUi.h"
 
-#include "platform/Failure.h"
+#include "platform/base/Failure.h"
 
 namespace fh::fhset {
 

@@ -1,7 +1,7 @@
 #include "TextValues.h"
 
-#include "platform/Ansi.h"
-#include "platform/Values.h"
+#include "platform/base/Ansi.h"
+#include "platform/base/Values.h"
 
 #include <algorithm>
 

@@ -2,7 +2,7 @@
 
 #include "TextValues.h"
 
-#include "platform/Ansi.h"
+#include "platform/base/Ansi.h"
 #include "world/cHotSpot.h"
 #include "world/cSet.h"
 #include "world/cShot.h"

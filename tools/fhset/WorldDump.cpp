@@ -3,9 +3,9 @@
 #include "QuietUi.h"
 #include "TextValues.h"
 
-#include "platform/Ansi.h"
-#include "platform/ByteFile.h"
-#include "platform/Failure.h"
+#include "platform/base/Ansi.h"
+#include "platform/files/ByteFile.h"
+#include "platform/base/Failure.h"
 #include "world/cHotSpot.h"
 #include "world/cSet.h"
 #include "world/cShot.h"

@@ -5,7 +5,7 @@
 #include "Synthesis.h"
 #include "WaveFile.h"
 
-#include "platform/FileUpdate.h"
+#include "platform/files/FileUpdate.h"
 
 #include <QDir>
 #include <QFileInfo>

@@ -2,7 +2,7 @@
 
 #include "WorldCheck.h"
 
-#include "platform/Failure.h"
+#include "platform/base/Failure.h"
 
 namespace fh::fhworld {
 

@@ -4,9 +4,9 @@
 #include "Problems.h"
 #include "WorldIndex.h"
 
-#include "platform/Failure.h"
-#include "platform/FileNames.h"
-#include "platform/Values.h"
+#include "platform/base/Failure.h"
+#include "platform/files/FileNames.h"
+#include "platform/base/Values.h"
 #include "script/ScriptWords.h"
 #include "world/cHotSpot.h"
 #include "world/cShot.h"

@@ -4,10 +4,10 @@
 #include "QuietUi.h"
 #include "WorldDump.h"
 
-#include "platform/ByteFile.h"
-#include "platform/Database.h"
-#include "platform/Failure.h"
-#include "platform/FileNames.h"
+#include "platform/files/ByteFile.h"
+#include "platform/data/Database.h"
+#include "platform/base/Failure.h"
+#include "platform/files/FileNames.h"
 #include "world/cSet.h"
 #include "world/cShot.h"
 

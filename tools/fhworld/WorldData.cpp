@@ -1,6 +1,6 @@
 #include "WorldData.h"
 
-#include "platform/Database.h"
+#include "platform/data/Database.h"
 
 namespace fh::fhworld {
 

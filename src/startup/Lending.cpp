@@ -1,0 +1,19 @@
+#include "startup/Lending.h"
+
+#include "computer/ComputerScreens.h"
+#include "game/Screens.h"
+#include "platform/base/Ui.h"
+#include "screens/LendScreens.h"
+#include "startup/Session.h"
+#include "startup/frmSetup.h"
+
+namespace fh {
+
+void LendWindows() {
+  LendChoiceScreens();
+  LendComputerScreens();
+  screens().setup = [] { ui().showModal(setupForm()); };
+  screens().endGame = [] { EndGame(); };
+}
+
+}  // namespace fh

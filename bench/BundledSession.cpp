@@ -1,8 +1,8 @@
 #include "BundledSession.h"
 
+#include "game/GameState.h"
 #include "mainview/ShotView.h"
 #include "platform/data/Database.h"
-#include "game/GameState.h"
 #include "startup/Users.h"
 #include "world/Score.h"
 #include "world/SetFile.h"

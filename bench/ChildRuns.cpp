@@ -2,8 +2,8 @@
 
 #include "BundledSession.h"
 
-#include "platform/files/Settings.h"
 #include "game/GameState.h"
+#include "platform/files/Settings.h"
 #include "startup/Main.h"
 #include "world/cSet.h"
 

@@ -2,10 +2,10 @@
 #include "LargeWorld.h"
 #include "SqliteFloor.h"
 
+#include "game/GameState.h"
 #include "mainview/ShotView.h"
 #include "platform/desktop/PictureBox.h"
 #include "script/Interpreter.h"
-#include "game/GameState.h"
 #include "world/cHotSpot.h"
 #include "world/cSet.h"
 #include "world/cShot.h"

@@ -1,8 +1,8 @@
 #include "SqliteFloor.h"
 
 #include "BundledSession.h"
-#include "platform/data/Database.h"
 #include "game/GameState.h"
+#include "platform/data/Database.h"
 
 #include <sqlite3.h>
 

@@ -1,5 +1,5 @@
-#include "platform/desktop/Application.h"
 #include "platform/base/Guard.h"
+#include "platform/desktop/Application.h"
 #include "startup/Lending.h"
 #include "startup/Main.h"
 #include "startup/TerminationHandling.h"

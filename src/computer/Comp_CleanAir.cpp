@@ -1,12 +1,12 @@
 #include "computer/Comp_CleanAir.h"
 
+#include "game/GameState.h"
 #include "platform/base/Failure.h"
-#include "platform/desktop/Fonts.h"
 #include "platform/base/Guard.h"
 #include "platform/base/Twips.h"
 #include "platform/base/Values.h"
+#include "platform/desktop/Fonts.h"
 #include "script/ContainerState.h"
-#include "game/GameState.h"
 #include "world/SaveFailure.h"
 
 #include <QCheckBox>

@@ -1,15 +1,15 @@
 #include "computer/Comp_HomeCheckup.h"
 
 #include "computer/CheckupPrintLayout.h"
-#include "platform/data/Database.h"
+#include "game/GameState.h"
 #include "platform/base/Failure.h"
-#include "platform/desktop/Fonts.h"
 #include "platform/base/Guard.h"
-#include "platform/desktop/Printout.h"
 #include "platform/base/Twips.h"
 #include "platform/base/Ui.h"
+#include "platform/data/Database.h"
+#include "platform/desktop/Fonts.h"
+#include "platform/desktop/Printout.h"
 #include "script/ContainerState.h"
-#include "game/GameState.h"
 #include "world/SaveFailure.h"
 
 #include <QComboBox>

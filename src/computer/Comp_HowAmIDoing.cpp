@@ -1,10 +1,10 @@
 #include "computer/Comp_HowAmIDoing.h"
 
+#include "game/GameState.h"
+#include "platform/base/Twips.h"
 #include "platform/data/Database.h"
 #include "platform/desktop/Fonts.h"
 #include "platform/desktop/Printout.h"
-#include "platform/base/Twips.h"
-#include "game/GameState.h"
 
 #include <QHeaderView>
 #include <QTableWidget>

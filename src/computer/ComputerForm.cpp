@@ -1,10 +1,10 @@
 #include "computer/ComputerForm.h"
 
-#include "platform/base/Failure.h"
-#include "platform/desktop/Printout.h"
-#include "platform/base/Ui.h"
-#include "world/Dialogs.h"
 #include "game/GameState.h"
+#include "platform/base/Failure.h"
+#include "platform/base/Ui.h"
+#include "platform/desktop/Printout.h"
+#include "world/Dialogs.h"
 
 #include <QApplication>
 #include <QDate>

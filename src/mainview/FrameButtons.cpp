@@ -1,12 +1,12 @@
 #include "mainview/ShotView.h"
 
-#include "platform/desktop/PictureBox.h"
+#include "game/GameState.h"
+#include "game/Screens.h"
 #include "platform/base/Ui.h"
+#include "platform/desktop/PictureBox.h"
 #include "script/ComputerCommand.h"
 #include "script/Interpreter.h"
-#include "game/Screens.h"
 #include "sound/cSoundMgr.h"
-#include "game/GameState.h"
 #include "world/cShot.h"
 
 // What the five picture buttons of the frame do when they are released. There is no net under them:

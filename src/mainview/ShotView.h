@@ -1,10 +1,10 @@
 #pragma once
 
 #include "game/View.h"
+#include "platform/base/Values.h"
 #include "platform/desktop/MessageHook.h"
 #include "platform/desktop/PictureClip.h"
 #include "platform/desktop/Timer.h"
-#include "platform/base/Values.h"
 
 #include <QString>
 #include <QWidget>

@@ -1,14 +1,14 @@
 #include "mainview/ShotView.h"
 
-#include "platform/base/Failure.h"
-#include "platform/base/Guard.h"
-#include "platform/desktop/PictureBox.h"
-#include "platform/base/Ui.h"
 #include "game/GameState.h"
 #include "game/Screens.h"
+#include "platform/base/Failure.h"
+#include "platform/base/Guard.h"
+#include "platform/base/Ui.h"
+#include "platform/desktop/PictureBox.h"
+#include "world/SaveFailure.h"
 #include "world/cHotSpot.h"
 #include "world/cSet.h"
-#include "world/SaveFailure.h"
 #include "world/cShot.h"
 
 #include <QKeyEvent>

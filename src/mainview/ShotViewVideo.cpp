@@ -1,9 +1,9 @@
 #include "mainview/ShotView.h"
 
+#include "game/GameState.h"
 #include "platform/base/Failure.h"
 #include "platform/desktop/PictureBox.h"
 #include "sound/cSoundMgr.h"
-#include "game/GameState.h"
 
 // Films are switched off in this game. The operations stay, and their callers are written for a
 // PlayVideo that fails: the television's caption is all the player gets, and the rest of the script

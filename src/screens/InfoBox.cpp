@@ -1,13 +1,13 @@
 #include "screens/InfoBox.h"
 
-#include "platform/data/Database.h"
+#include "game/GameState.h"
 #include "platform/base/Guard.h"
+#include "platform/base/Twips.h"
+#include "platform/data/Database.h"
 #include "platform/desktop/PictureButton.h"
 #include "platform/desktop/RichTextBox.h"
-#include "platform/base/Twips.h"
 #include "platform/desktop/WindowArt.h"
 #include "screens/BoxLook.h"
-#include "game/GameState.h"
 
 #include <QLabel>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/desktop/PictureForm.h"
 #include "game/Screens.h"
+#include "platform/desktop/PictureForm.h"
 
 class QLabel;
 

@@ -1,9 +1,9 @@
 #include "screens/ObjectHelp.h"
 
 #include "platform/base/Guard.h"
+#include "platform/base/Twips.h"
 #include "platform/desktop/PictureButton.h"
 #include "platform/desktop/RichTextBox.h"
-#include "platform/base/Twips.h"
 #include "platform/desktop/WindowArt.h"
 #include "screens/BoxLook.h"
 

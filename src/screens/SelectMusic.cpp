@@ -1,13 +1,13 @@
 #include "screens/SelectMusic.h"
 
+#include "game/GameState.h"
 #include "platform/base/Failure.h"
-#include "platform/desktop/Fonts.h"
 #include "platform/base/Guard.h"
+#include "platform/desktop/Fonts.h"
 #include "platform/desktop/PictureButton.h"
 #include "sound/MusicDevice.h"
 #include "sound/MusicPieces.h"
 #include "sound/cSoundMgr.h"
-#include "game/GameState.h"
 
 #include <QLabel>
 

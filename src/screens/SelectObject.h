@@ -1,9 +1,9 @@
 #pragma once
 
-#include "platform/desktop/PictureForm.h"
-#include "platform/data/Recordset.h"
-#include "platform/base/Values.h"
 #include "game/Screens.h"
+#include "platform/base/Values.h"
+#include "platform/data/Recordset.h"
+#include "platform/desktop/PictureForm.h"
 
 #include <optional>
 

@@ -1,10 +1,10 @@
 #include "script/ChoiceBoxes.h"
 
-#include "game/View.h"
-#include "platform/desktop/PictureBox.h"
-#include "platform/base/Ui.h"
-#include "game/Screens.h"
 #include "game/GameState.h"
+#include "game/Screens.h"
+#include "game/View.h"
+#include "platform/base/Ui.h"
+#include "platform/desktop/PictureBox.h"
 #include "world/cShot.h"
 
 namespace fh {

@@ -1,8 +1,8 @@
 #include "script/ComputerCommand.h"
 
+#include "game/GameState.h"
 #include "game/Screens.h"
 #include "game/View.h"
-#include "game/GameState.h"
 
 namespace fh {
 

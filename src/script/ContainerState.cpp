@@ -1,9 +1,9 @@
 #include "script/ContainerState.h"
 
-#include "platform/data/Database.h"
-#include "platform/base/Ui.h"
-#include "world/Dialogs.h"
 #include "game/GameState.h"
+#include "platform/base/Ui.h"
+#include "platform/data/Database.h"
+#include "world/Dialogs.h"
 #include "world/cContainer.h"
 #include "world/cSet.h"
 #include "world/cShot.h"

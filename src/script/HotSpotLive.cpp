@@ -1,11 +1,11 @@
 #include "world/cHotSpot.h"
 
+#include "game/GameState.h"
 #include "game/View.h"
 #include "platform/base/Failure.h"
-#include "world/Dialogs.h"
 #include "script/Interpreter.h"
 #include "sound/cSoundMgr.h"
-#include "game/GameState.h"
+#include "world/Dialogs.h"
 
 // What a hotspot does in play: light up under the pointer, go out, and fire when clicked.
 namespace fh {

@@ -1,10 +1,10 @@
 #include "script/Television.h"
 
-#include "game/View.h"
-#include "world/Condition.h"
-#include "script/ContainerState.h"
-#include "world/Dialogs.h"
 #include "game/GameState.h"
+#include "game/View.h"
+#include "script/ContainerState.h"
+#include "world/Condition.h"
+#include "world/Dialogs.h"
 
 #include <array>
 

@@ -1,9 +1,9 @@
 #include "sound/SoundControls.h"
 
+#include "game/GameState.h"
 #include "platform/base/Failure.h"
 #include "platform/base/Guard.h"
 #include "sound/cSoundMgr.h"
-#include "game/GameState.h"
 
 namespace fh {
 

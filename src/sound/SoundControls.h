@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/desktop/MediaDevice.h"
 #include "platform/base/Values.h"
+#include "platform/desktop/MediaDevice.h"
 
 #include <QObject>
 

@@ -1,12 +1,12 @@
 #include "sound/cSoundMgr.h"
 
-#include "platform/desktop/CdPrompt.h"
+#include "game/GameState.h"
 #include "platform/base/Failure.h"
-#include "platform/files/FileNames.h"
 #include "platform/base/Ui.h"
+#include "platform/desktop/CdPrompt.h"
+#include "platform/files/FileNames.h"
 #include "sound/MusicDevice.h"
 #include "sound/SoundControls.h"
-#include "game/GameState.h"
 
 namespace fh {
 

@@ -1,11 +1,11 @@
 #include "startup/Main.h"
 
+#include "game/GameState.h"
 #include "platform/base/Failure.h"
+#include "platform/base/Ui.h"
 #include "platform/files/FileNames.h"
 #include "platform/files/Settings.h"
-#include "platform/base/Ui.h"
 #include "sound/cSoundMgr.h"
-#include "game/GameState.h"
 #include "startup/Splash.h"
 #include "startup/frmSetup.h"
 

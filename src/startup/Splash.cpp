@@ -1,12 +1,12 @@
 #include "startup/Splash.h"
 
+#include "game/FixedPictures.h"
+#include "game/GameState.h"
 #include "platform/base/Failure.h"
 #include "platform/desktop/Fonts.h"
 #include "platform/desktop/ImagePair.h"
 #include "platform/desktop/Pictures.h"
 #include "platform/desktop/WindowArt.h"
-#include "game/FixedPictures.h"
-#include "game/GameState.h"
 #include "startup/Session.h"
 
 #include <QGuiApplication>

@@ -1,7 +1,7 @@
 #include "startup/TerminationHandling.h"
 
-#include "platform/desktop/TerminationRequests.h"
 #include "platform/base/Ui.h"
+#include "platform/desktop/TerminationRequests.h"
 #include "startup/Session.h"
 
 namespace fh {

@@ -1,8 +1,8 @@
 #include "startup/Users.h"
 
-#include "platform/data/Database.h"
-#include "platform/base/Ui.h"
 #include "game/GameState.h"
+#include "platform/base/Ui.h"
+#include "platform/data/Database.h"
 
 namespace fh {
 

@@ -1,9 +1,9 @@
 #include "startup/frmNewUser.h"
 
 #include "platform/base/Guard.h"
-#include "platform/desktop/PictureButton.h"
 #include "platform/base/Twips.h"
 #include "platform/base/Ui.h"
+#include "platform/desktop/PictureButton.h"
 #include "platform/desktop/WindowArt.h"
 #include "startup/LoginLook.h"
 #include "startup/Users.h"

@@ -1,12 +1,12 @@
 #include "startup/frmSetup.h"
 
+#include "game/GameState.h"
 #include "platform/base/Failure.h"
 #include "platform/base/Guard.h"
-#include "platform/files/Settings.h"
 #include "platform/base/Twips.h"
+#include "platform/files/Settings.h"
 #include "sound/cSoundMgr.h"
 #include "startup/DirectoryLists.h"
-#include "game/GameState.h"
 
 #include <QCloseEvent>
 #include <QLabel>

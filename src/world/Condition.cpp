@@ -1,7 +1,7 @@
 #include "world/Condition.h"
 
-#include "platform/base/Failure.h"
 #include "game/GameState.h"
+#include "platform/base/Failure.h"
 #include "world/cContainer.h"
 #include "world/cSet.h"
 

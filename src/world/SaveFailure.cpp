@@ -1,8 +1,8 @@
 #include "world/SaveFailure.h"
 
+#include "game/GameState.h"
 #include "platform/base/Failure.h"
 #include "platform/base/Ui.h"
-#include "game/GameState.h"
 #include "world/cSet.h"
 #include "world/cShot.h"
 

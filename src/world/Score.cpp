@@ -1,7 +1,7 @@
 #include "world/Score.h"
 
-#include "platform/data/Database.h"
 #include "platform/base/Failure.h"
+#include "platform/data/Database.h"
 
 #include <cmath>
 

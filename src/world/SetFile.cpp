@@ -1,10 +1,10 @@
 #include "world/SetFile.h"
 
-#include "platform/files/ByteFile.h"
-#include "platform/data/Database.h"
-#include "platform/base/Failure.h"
-#include "platform/files/FileNames.h"
 #include "game/GameState.h"
+#include "platform/base/Failure.h"
+#include "platform/data/Database.h"
+#include "platform/files/ByteFile.h"
+#include "platform/files/FileNames.h"
 #include "world/cSet.h"
 #include "world/cShot.h"
 

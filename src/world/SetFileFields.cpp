@@ -1,9 +1,9 @@
 #include "world/SetFileFields.h"
 
 #include "platform/base/Ansi.h"
-#include "platform/files/ByteFile.h"
 #include "platform/base/Failure.h"
 #include "platform/base/Ui.h"
+#include "platform/files/ByteFile.h"
 
 #include <algorithm>
 

@@ -1,11 +1,11 @@
-#include "world/Players.h"
 #include "world/cSet.h"
 
-#include "game/View.h"
-#include "platform/data/Database.h"
-#include "platform/base/Failure.h"
-#include "world/Dialogs.h"
 #include "game/GameState.h"
+#include "game/View.h"
+#include "platform/base/Failure.h"
+#include "platform/data/Database.h"
+#include "world/Dialogs.h"
+#include "world/Players.h"
 
 #include <algorithm>
 

@@ -1,13 +1,13 @@
 #include "world/cShot.h"
 
+#include "game/GameState.h"
 #include "game/View.h"
-#include "platform/data/Database.h"
 #include "platform/base/Ui.h"
+#include "platform/data/Database.h"
 #include "world/Condition.h"
 #include "world/Players.h"
 #include "world/Score.h"
 #include "world/cSet.h"
-#include "game/GameState.h"
 
 // What a shot looks like for this user: computed from the database each time it is shown or changed.
 namespace fh {

@@ -1,14 +1,14 @@
 #include "world/cSprite.h"
 
-#include "game/View.h"
-#include "platform/desktop/CdPrompt.h"
-#include "platform/base/Failure.h"
-#include "platform/files/FileNames.h"
-#include "platform/desktop/PictureClip.h"
-#include "platform/desktop/Timer.h"
-#include "platform/desktop/Pictures.h"
-#include "sound/cSoundMgr.h"
 #include "game/GameState.h"
+#include "game/View.h"
+#include "platform/base/Failure.h"
+#include "platform/desktop/CdPrompt.h"
+#include "platform/desktop/PictureClip.h"
+#include "platform/desktop/Pictures.h"
+#include "platform/desktop/Timer.h"
+#include "platform/files/FileNames.h"
+#include "sound/cSoundMgr.h"
 
 namespace fh {
 

@@ -1,11 +1,11 @@
 #include "LiveWorld.h"
 #include "SoundFiles.h"
 
+#include "game/Screens.h"
 #include "platform/desktop/AudioOutput.h"
 #include "platform/desktop/ImagePair.h"
 #include "platform/desktop/MessageHook.h"
 #include "platform/desktop/PictureButton.h"
-#include "game/Screens.h"
 #include "screens/LendScreens.h"
 #include "screens/SelectMusic.h"
 #include "sound/SoundControls.h"

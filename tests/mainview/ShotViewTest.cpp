@@ -1,10 +1,10 @@
-#include "mainview/ElapsedTimeText.h"
+#include "game/GameState.h"
 #include "game/Screens.h"
+#include "mainview/ElapsedTimeText.h"
 #include "mainview/ShotView.h"
 #include "platform/base/Failure.h"
 #include "platform/desktop/ImagePair.h"
 #include "platform/desktop/PictureBox.h"
-#include "game/GameState.h"
 #include "world/cShot.h"
 
 #include "ScriptedUi.h"

@@ -1,5 +1,5 @@
-#include "platform/data/Database.h"
 #include "platform/base/Failure.h"
+#include "platform/data/Database.h"
 #include "platform/data/SqlScript.h"
 
 #include "TempFolder.h"

@@ -1,7 +1,7 @@
 #include "platform/base/Failure.h"
 #include "platform/base/Guard.h"
-#include "platform/desktop/Pictures.h"
 #include "platform/base/Ui.h"
+#include "platform/desktop/Pictures.h"
 
 #include "ScriptedUi.h"
 #include "TempFolder.h"

@@ -1,6 +1,6 @@
 #include "platform/base/Ansi.h"
-#include "platform/files/ByteFile.h"
 #include "platform/base/Failure.h"
+#include "platform/files/ByteFile.h"
 #include "platform/files/FileNames.h"
 
 #include "TempFolder.h"

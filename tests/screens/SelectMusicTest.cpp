@@ -1,8 +1,8 @@
 #include "platform/base/Failure.h"
 #include "platform/desktop/PictureButton.h"
+#include "screens/SelectMusic.h"
 #include "sound/MusicDevice.h"
 #include "sound/MusicPieces.h"
-#include "screens/SelectMusic.h"
 
 #include "SoundFixture.h"
 

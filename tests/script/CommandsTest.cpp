@@ -1,8 +1,8 @@
 #include "LiveWorld.h"
 #include "SoundFiles.h"
 
-#include "platform/desktop/AudioOutput.h"
 #include "platform/base/Failure.h"
+#include "platform/desktop/AudioOutput.h"
 #include "script/Interpreter.h"
 #include "sound/SoundControls.h"
 #include "sound/cSoundMgr.h"

@@ -1,6 +1,6 @@
+#include "game/GameState.h"
 #include "platform/base/Failure.h"
 #include "world/Condition.h"
-#include "game/GameState.h"
 #include "world/cSet.h"
 
 #include <gtest/gtest.h>

@@ -1,9 +1,9 @@
 #include "ScriptedUi.h"
+#include "game/GameState.h"
 #include "platform/base/Failure.h"
-#include "world/Condition.h"
 #include "script/Interpreter.h"
 #include "script/ScriptWords.h"
-#include "game/GameState.h"
+#include "world/Condition.h"
 
 #include <QStringList>
 

@@ -2,8 +2,8 @@
 
 #include "platform/base/Failure.h"
 #include "script/ContainerState.h"
-#include "world/Dialogs.h"
 #include "script/Interpreter.h"
+#include "world/Dialogs.h"
 #include "world/SetFile.h"
 
 namespace fh::test {

@@ -1,5 +1,5 @@
-#include "platform/desktop/AudioOutput.h"
 #include "platform/base/Failure.h"
+#include "platform/desktop/AudioOutput.h"
 #include "platform/desktop/MediaDevice.h"
 
 #include "SoundFiles.h"

@@ -1,9 +1,9 @@
 #pragma once
 
+#include "game/GameState.h"
 #include "platform/desktop/AudioOutput.h"
 #include "sound/SoundControls.h"
 #include "sound/cSoundMgr.h"
-#include "game/GameState.h"
 
 #include "ScriptedUi.h"
 #include "SoundFiles.h"

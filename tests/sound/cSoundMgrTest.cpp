@@ -1,5 +1,5 @@
-#include "platform/desktop/CdPrompt.h"
 #include "platform/base/Failure.h"
+#include "platform/desktop/CdPrompt.h"
 #include "sound/MusicDevice.h"
 
 #include "SoundFixture.h"

@@ -1,9 +1,9 @@
+#include "game/GameState.h"
 #include "mainview/ShotView.h"
+#include "platform/base/Ui.h"
+#include "platform/data/Database.h"
 #include "platform/desktop/Application.h"
 #include "platform/desktop/AudioOutput.h"
-#include "platform/data/Database.h"
-#include "platform/base/Ui.h"
-#include "game/GameState.h"
 #include "startup/TerminationHandling.h"
 #include "world/cSet.h"
 

@@ -1,10 +1,10 @@
 #pragma once
 
+#include "game/GameState.h"
 #include "mainview/ShotView.h"
 #include "platform/data/Database.h"
 #include "platform/data/SqlScript.h"
 #include "screens/SelectMusic.h"
-#include "game/GameState.h"
 #include "startup/Splash.h"
 #include "startup/frmLogin.h"
 #include "startup/frmNewUser.h"

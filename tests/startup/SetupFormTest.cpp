@@ -1,5 +1,5 @@
-#include "startup/DirectoryLists.h"
 #include "game/GameState.h"
+#include "startup/DirectoryLists.h"
 #include "startup/frmSetup.h"
 
 #include "ScriptedUi.h"

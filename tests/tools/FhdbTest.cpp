@@ -1,8 +1,8 @@
 #include "DatabaseBuild.h"
 #include "Fhdb.h"
 
-#include "platform/data/Database.h"
 #include "platform/base/Failure.h"
+#include "platform/data/Database.h"
 
 #include "TempFolder.h"
 

@@ -4,11 +4,11 @@
 
 #include "ScriptedUi.h"
 #include "TempFolder.h"
+#include "game/GameState.h"
 #include "mainview/ShotView.h"
 #include "platform/data/Database.h"
-#include "platform/desktop/PictureBox.h"
 #include "platform/data/SqlScript.h"
-#include "game/GameState.h"
+#include "platform/desktop/PictureBox.h"
 #include "world/Score.h"
 
 #include <QImage>

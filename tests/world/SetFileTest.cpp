@@ -1,8 +1,8 @@
 #include "WorldFixtures.h"
 
 #include "TempFolder.h"
-#include "platform/base/Failure.h"
 #include "game/GameState.h"
+#include "platform/base/Failure.h"
 #include "world/SetFile.h"
 
 #include <QFile>

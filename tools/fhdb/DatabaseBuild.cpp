@@ -1,7 +1,7 @@
 #include "DatabaseBuild.h"
 
-#include "platform/data/DatabaseConnection.h"
 #include "platform/base/Failure.h"
+#include "platform/data/DatabaseConnection.h"
 #include "platform/data/SqlScript.h"
 
 #include <QDateTime>

@@ -2,9 +2,9 @@
 
 #include "DatabaseBuild.h"
 
-#include "platform/data/Database.h"
 #include "platform/base/Failure.h"
 #include "platform/base/Values.h"
+#include "platform/data/Database.h"
 
 #include <QDir>
 #include <QFileInfo>

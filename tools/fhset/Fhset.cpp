@@ -3,8 +3,8 @@
 #include "WorldBuild.h"
 #include "WorldDump.h"
 
-#include "platform/files/ByteFile.h"
 #include "platform/base/Failure.h"
+#include "platform/files/ByteFile.h"
 #include "world/cSet.h"
 
 #include <QFileInfo>

@@ -4,8 +4,8 @@
 #include "TextValues.h"
 
 #include "platform/base/Ansi.h"
-#include "platform/files/ByteFile.h"
 #include "platform/base/Failure.h"
+#include "platform/files/ByteFile.h"
 #include "world/cHotSpot.h"
 #include "world/cSet.h"
 #include "world/cShot.h"

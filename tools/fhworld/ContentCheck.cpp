@@ -2,9 +2,9 @@
 #include "ConditionCheck.h"
 
 #include "computer/CheckupPrintLayout.h"
+#include "game/FixedPictures.h"
 #include "platform/base/Failure.h"
 #include "sound/MusicPieces.h"
-#include "game/FixedPictures.h"
 #include "world/cShot.h"
 
 namespace fh::fhworld {

@@ -1,7 +1,7 @@
 #include "CheckParts.h"
 
-#include "platform/data/Database.h"
 #include "platform/base/Failure.h"
+#include "platform/data/Database.h"
 #include "world/Score.h"
 
 #include <QFile>

@@ -5,8 +5,8 @@
 #include "WorldIndex.h"
 
 #include "platform/base/Failure.h"
-#include "platform/files/FileNames.h"
 #include "platform/base/Values.h"
+#include "platform/files/FileNames.h"
 #include "script/ScriptWords.h"
 #include "world/cHotSpot.h"
 #include "world/cShot.h"

@@ -4,9 +4,9 @@
 #include "QuietUi.h"
 #include "WorldDump.h"
 
-#include "platform/files/ByteFile.h"
-#include "platform/data/Database.h"
 #include "platform/base/Failure.h"
+#include "platform/data/Database.h"
+#include "platform/files/ByteFile.h"
 #include "platform/files/FileNames.h"
 #include "world/cSet.h"
 #include "world/cShot.h"

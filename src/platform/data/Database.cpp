@@ -1,7 +1,7 @@
 #include "platform/data/Database.h"
 
-#include "platform/data/DatabaseConnection.h"
 #include "platform/base/Failure.h"
+#include "platform/data/DatabaseConnection.h"
 
 #include <QRegularExpression>
 #include <QSqlRecord>

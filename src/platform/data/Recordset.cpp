@@ -1,7 +1,7 @@
 #include "platform/data/Recordset.h"
 
-#include "platform/data/DatabaseConnection.h"
 #include "platform/base/Failure.h"
+#include "platform/data/DatabaseConnection.h"
 
 #include <QSqlQuery>
 #include <QSqlRecord>

@@ -1,7 +1,7 @@
 #include "platform/data/SqlScript.h"
 
-#include "platform/data/DatabaseConnection.h"
 #include "platform/base/Failure.h"
+#include "platform/data/DatabaseConnection.h"
 #include "platform/files/FileNames.h"
 
 #include <QFile>

@@ -1,7 +1,7 @@
 #include "platform/desktop/MediaDevice.h"
 
-#include "platform/desktop/AudioOutput.h"
 #include "platform/base/Failure.h"
+#include "platform/desktop/AudioOutput.h"
 #include "platform/files/FileNames.h"
 
 #include <QFileInfo>

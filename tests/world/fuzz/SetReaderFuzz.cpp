@@ -8,8 +8,8 @@
 #include "WorldBuild.h"
 #include "WorldDump.h"
 
-#include "platform/files/ByteFile.h"
 #include "platform/base/Failure.h"
+#include "platform/files/ByteFile.h"
 #include "world/cHotSpot.h"
 #include "world/cSet.h"
 #include "world/cShot.h"

@@ -137,4 +137,26 @@ i16 DoStartSet(const ScriptWords& words) {
   return 0;
 }
 
+const std::array<ScriptCommand, 19> kScriptCommands{{
+    {QLatin1StringView("computer"), 1, DoComputer},
+    {QLatin1StringView("if"), 3, DoIf},
+    {QLatin1StringView("animatesprite"), 1, DoAnimateSprite},
+    {QLatin1StringView("stopsprite"), 1, DoStopSprite},
+    {QLatin1StringView("setcontainer"), 3, DoSetContainer},
+    {QLatin1StringView("togglecontainer"), 2, DoToggleContainer},
+    {QLatin1StringView("showdialog"), 1, DoShowDialog},
+    {QLatin1StringView("showdialogstring"), 2, DoShowDialogString},
+    {QLatin1StringView("showinfobox"), 1, DoShowInfoBox},
+    {QLatin1StringView("showcontainer"), 1, DoShowContainer},
+    {QLatin1StringView("showvideo"), 1, DoShowVideo},
+    {QLatin1StringView("stopvideo"), 1, DoStopVideo},
+    {QLatin1StringView("goto"), 1, DoGoto},
+    {QLatin1StringView("playlocal"), 2, DoPlayLocal},
+    {QLatin1StringView("stoplocal"), 1, DoStopLocal},
+    {QLatin1StringView("loadsound"), 2, DoLoadSound},
+    {QLatin1StringView("sethotspot"), 2, DoSetHotSpot},
+    {QLatin1StringView("object"), 1, DoObject},
+    {QLatin1StringView("startset"), 1, DoStartSet},
+}};
+
 }  // namespace fh

@@ -2,6 +2,10 @@
 
 #include "platform/base/Values.h"
 
+#include <QLatin1StringView>
+
+#include <array>
+
 namespace fh {
 
 class ScriptWords;
@@ -30,5 +34,17 @@ i16 DoLoadSound(const ScriptWords& words);
 i16 DoSetHotSpot(const ScriptWords& words);
 i16 DoObject(const ScriptWords& words);
 i16 DoStartSet(const ScriptWords& words);
+
+// A command of the script language: its word, the fewest words (the command's own included) with
+// which its line doesn't fail at a word that isn't there, and what runs.
+struct ScriptCommand {
+  QLatin1StringView word;
+  int fewestWords;
+  i16 (*run)(const ScriptWords& words);
+};
+
+// Every command. A line's word 0 is compared exactly with each, in this order, and the first that
+// matches runs. The interpreter runs from this table and the world checker reads it.
+extern const std::array<ScriptCommand, 19> kScriptCommands;
 
 }  // namespace fh

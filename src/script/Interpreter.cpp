@@ -5,39 +5,10 @@
 #include "script/ScriptWords.h"
 
 #include <algorithm>
-#include <array>
 
 namespace fh {
 
 namespace {
-
-struct CommandEntry {
-  QLatin1StringView word;
-  i16 (*run)(const ScriptWords&);
-};
-
-// Word 0 is compared exactly, in this order, and the first match runs.
-constexpr std::array<CommandEntry, 19> kCommands{{
-    {QLatin1StringView("computer"), DoComputer},
-    {QLatin1StringView("if"), DoIf},
-    {QLatin1StringView("animatesprite"), DoAnimateSprite},
-    {QLatin1StringView("stopsprite"), DoStopSprite},
-    {QLatin1StringView("setcontainer"), DoSetContainer},
-    {QLatin1StringView("togglecontainer"), DoToggleContainer},
-    {QLatin1StringView("showdialog"), DoShowDialog},
-    {QLatin1StringView("showdialogstring"), DoShowDialogString},
-    {QLatin1StringView("showinfobox"), DoShowInfoBox},
-    {QLatin1StringView("showcontainer"), DoShowContainer},
-    {QLatin1StringView("showvideo"), DoShowVideo},
-    {QLatin1StringView("stopvideo"), DoStopVideo},
-    {QLatin1StringView("goto"), DoGoto},
-    {QLatin1StringView("playlocal"), DoPlayLocal},
-    {QLatin1StringView("stoplocal"), DoStopLocal},
-    {QLatin1StringView("loadsound"), DoLoadSound},
-    {QLatin1StringView("sethotspot"), DoSetHotSpot},
-    {QLatin1StringView("object"), DoObject},
-    {QLatin1StringView("startset"), DoStartSet},
-}};
 
 const QString kCarriageReturn(QChar(13));
 
@@ -74,7 +45,7 @@ i16 RunScriptLine(const QString& line) {
   const ScriptWords words(line);
   const QString& command = words.word(0);
   // Unknown words are ignored without a word; so is the "endif" behind a true `if`.
-  for (const CommandEntry& entry : kCommands)
+  for (const ScriptCommand& entry : kScriptCommands)
     if (command == entry.word) return entry.run(words);
   return 0;
 }

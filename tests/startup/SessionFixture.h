@@ -70,11 +70,9 @@ class SessionFixture : public testing::Test {
     UnloadSelectMusic();
     loginForm().hide();
     newUserForm().hide();
-    CurrentSet.reset();
-    CurrentShot.reset();
+    resetGameState();
     UnloadShotView();
     UnloadSplash();
-    GameDB.reset();
   }
 
   // The row as another program would see it.

@@ -65,15 +65,11 @@ class LiveWorld : public testing::Test {
   virtual QStringList moreRows() const { return {}; }
 
   void TearDown() override {
-    CurrentSet.reset();
-    CurrentShot.reset();
     GameDB->Close();
-    GameDB.reset();
+    resetGameState();
     UnloadShotView();
     DatabasePath.clear();
     ResourcePath.clear();
-    LastDialogText.clear();
-    UserHasWonGame = false;
   }
 
   ShotView& view() { return TheShotView(); }

@@ -2,6 +2,7 @@
 
 #include "BmpFile.h"
 #include "SharedPalette.h"
+#include "Subcommands.h"
 #include "SvgPicture.h"
 
 #include "platform/files/FileUpdate.h"
@@ -10,6 +11,8 @@
 #include <QFileInfo>
 
 namespace fh::fhart {
+
+using tools::UsageProblem;
 
 namespace {
 
@@ -27,10 +30,6 @@ path, a blur...) is told with the file and line; world/art/STYLE.md says what it
 When a picture can't be drawn, render says why and writes nothing.
 )";
 
-// Thrown for what the person at the command line must mend: arguments, a missing folder or file.
-struct UsageProblem {
-  QString text;
-};
 
 void tellNotes(const RenderedPicture& picture, QTextStream& err) {
   for (const QString& note : picture.notes) err << "fhart: " << note << '\n';
@@ -151,18 +150,11 @@ int preview(const QStringList& args, QTextStream& out, QTextStream& err) {
 }  // namespace
 
 int runFhart(const QStringList& arguments, QTextStream& out, QTextStream& err) {
-  const QString command = arguments.value(0);
-  if (command == QStringLiteral("--help") || command == QStringLiteral("-h")) {
-    out << kUsage;
-    return 0;
-  }
   try {
-    if (command == QStringLiteral("render")) return render(arguments.mid(1), out, err);
-    if (command == QStringLiteral("preview")) return preview(arguments.mid(1), out, err);
-    throw UsageProblem{command.isEmpty() ? QStringLiteral("no command given") : QStringLiteral("unknown command '%1'").arg(command)};
-  } catch (const UsageProblem& problem) {
-    err << "fhart: " << problem.text << "\n\n" << kUsage;
-    return 2;
+    return tools::runSubcommands(QStringLiteral("fhart"), kUsage,
+                                 {{QStringLiteral("render"), [&](const QStringList& args) { return render(args, out, err); }},
+                                  {QStringLiteral("preview"), [&](const QStringList& args) { return preview(args, out, err); }}},
+                                 arguments, out, err);
   } catch (const ArtProblem& problem) {
     err << "fhart: " << problem.text << '\n';
     return 1;

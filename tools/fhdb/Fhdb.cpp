@@ -1,6 +1,7 @@
 #include "Fhdb.h"
 
 #include "DatabaseBuild.h"
+#include "Subcommands.h"
 
 #include "platform/base/Failure.h"
 #include "platform/base/Values.h"
@@ -11,6 +12,8 @@
 #include <QRegularExpression>
 
 namespace fh::fhdb {
+
+using tools::UsageProblem;
 
 namespace {
 
@@ -26,10 +29,6 @@ const char* const kUsage =
     "\n"
     "Rows are printed as tab-separated text under a header line; Null shows as NULL.\n";
 
-// Thrown for what the person at the command line must mend: a bad command line or a missing file.
-struct UsageProblem {
-  QString text;
-};
 
 QVariant parameterValue(const QString& text) {
   bool whole = false;
@@ -133,21 +132,13 @@ int create(const QStringList& args, QTextStream& out) {
 }  // namespace
 
 int runFhdb(const QStringList& arguments, QTextStream& out, QTextStream& err) {
-  if (arguments.value(0) == QStringLiteral("--help") || arguments.value(0) == QStringLiteral("-h")) {
-    out << kUsage;
-    return 0;
-  }
-  const QString command = arguments.value(0);
-  const QStringList rest = arguments.mid(1);
   try {
-    if (command == QStringLiteral("create")) return create(rest, out);
-    if (command == QStringLiteral("query")) return query(rest, out);
-    if (command == QStringLiteral("exec")) return exec(rest, out);
-    if (command == QStringLiteral("users")) return users(rest, out);
-    throw UsageProblem{command.isEmpty() ? QStringLiteral("no command given") : QStringLiteral("unknown command '%1'").arg(command)};
-  } catch (const UsageProblem& problem) {
-    err << "fhdb: " << problem.text << "\n\n" << kUsage;
-    return 2;
+    return tools::runSubcommands(QStringLiteral("fhdb"), kUsage,
+                                 {{QStringLiteral("create"), [&](const QStringList& args) { return create(args, out); }},
+                                  {QStringLiteral("query"), [&](const QStringList& args) { return query(args, out); }},
+                                  {QStringLiteral("exec"), [&](const QStringList& args) { return exec(args, out); }},
+                                  {QStringLiteral("users"), [&](const QStringList& args) { return users(args, out); }}},
+                                 arguments, out, err);
   } catch (const DatabaseRefused& refusal) {
     err << "fhdb: " << refusal.text << '\n';
     return 1;

@@ -2,6 +2,7 @@
 
 #include "MidiFile.h"
 #include "MusicSource.h"
+#include "Subcommands.h"
 
 #include "platform/files/FileUpdate.h"
 
@@ -10,6 +11,8 @@
 #include <QFileInfo>
 
 namespace fh::fhmidi {
+
+using tools::UsageProblem;
 
 namespace {
 
@@ -22,10 +25,6 @@ const char* const kUsage =
     "\n"
     "The notation of the sources is described in world/music/README.md.\n";
 
-// Thrown for what the person at the command line must mend: a bad command line or a missing folder.
-struct UsageProblem {
-  QString text;
-};
 
 // Writes bytes unless the file already holds exactly them; says whether it wrote.
 int build(const QStringList& args, QTextStream& out, QTextStream& err) {
@@ -78,19 +77,11 @@ int info(const QStringList& args, QTextStream& out) {
 }  // namespace
 
 int runFhmidi(const QStringList& arguments, QTextStream& out, QTextStream& err) {
-  if (arguments.value(0) == QStringLiteral("--help") || arguments.value(0) == QStringLiteral("-h")) {
-    out << kUsage;
-    return 0;
-  }
-  const QString command = arguments.value(0);
-  const QStringList rest = arguments.mid(1);
   try {
-    if (command == QStringLiteral("build")) return build(rest, out, err);
-    if (command == QStringLiteral("info")) return info(rest, out);
-    throw UsageProblem{command.isEmpty() ? QStringLiteral("no command given") : QStringLiteral("unknown command '%1'").arg(command)};
-  } catch (const UsageProblem& problem) {
-    err << "fhmidi: " << problem.text << "\n\n" << kUsage;
-    return 2;
+    return tools::runSubcommands(QStringLiteral("fhmidi"), kUsage,
+                                 {{QStringLiteral("build"), [&](const QStringList& args) { return build(args, out, err); }},
+                                  {QStringLiteral("info"), [&](const QStringList& args) { return info(args, out); }}},
+                                 arguments, out, err);
   } catch (const MidiFormatError& error) {
     err << "fhmidi: " << arguments.value(1) << ": " << error.text << '\n';
     return 1;

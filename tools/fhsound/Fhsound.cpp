@@ -2,6 +2,7 @@
 
 #include "Mastering.h"
 #include "SoundSource.h"
+#include "Subcommands.h"
 #include "Synthesis.h"
 #include "WaveFile.h"
 
@@ -11,6 +12,8 @@
 #include <QFileInfo>
 
 namespace fh::fhsound {
+
+using tools::UsageProblem;
 
 namespace {
 
@@ -23,10 +26,6 @@ const char* const kUsage =
     "Wave files are 16-bit PCM mono at 22050 Hz, all brought to one loudness; a file whose\n"
     "bytes would not change is left alone.\n";
 
-// Thrown for what the person at the command line must mend: a bad command line or a missing folder.
-struct UsageProblem {
-  QString text;
-};
 
 QString decibels(double value) { return QString::number(value, 'f', 1) + QStringLiteral(" dB"); }
 
@@ -57,17 +56,10 @@ int build(const QStringList& args, QTextStream& out, QTextStream& err) {
 }  // namespace
 
 int runFhsound(const QStringList& arguments, QTextStream& out, QTextStream& err) {
-  if (arguments.value(0) == QStringLiteral("--help") || arguments.value(0) == QStringLiteral("-h")) {
-    out << kUsage;
-    return 0;
-  }
-  const QString command = arguments.value(0);
   try {
-    if (command == QStringLiteral("build")) return build(arguments.mid(1), out, err);
-    throw UsageProblem{command.isEmpty() ? QStringLiteral("no command given") : QStringLiteral("unknown command '%1'").arg(command)};
-  } catch (const UsageProblem& problem) {
-    err << "fhsound: " << problem.text << "\n\n" << kUsage;
-    return 2;
+    return tools::runSubcommands(QStringLiteral("fhsound"), kUsage,
+                                 {{QStringLiteral("build"), [&](const QStringList& args) { return build(args, out, err); }}}, arguments,
+                                 out, err);
   } catch (const SourceProblem& problem) {
     err << "fhsound: " << problem.where() << ": " << problem.text << '\n';
     return 1;

@@ -7,9 +7,12 @@
 #include "platform/base/Failure.h"
 #include "platform/base/Values.h"
 #include "platform/files/FileNames.h"
+#include "script/Commands.h"
 #include "script/ScriptWords.h"
 #include "world/cHotSpot.h"
 #include "world/cShot.h"
+
+#include <algorithm>
 
 namespace fh::fhworld {
 
@@ -17,18 +20,6 @@ namespace {
 
 constexpr int kLongestLine = 64;
 constexpr int kMostSounds = 20;
-
-// The fewest words (the command included) with which each command's line doesn't fail.
-const std::map<QString, int>& fewestWords() {
-  static const std::map<QString, int> table{
-      {"computer", 1},   {"if", 3},         {"animatesprite", 1},   {"stopsprite", 1},
-      {"setcontainer", 3}, {"togglecontainer", 2}, {"showdialog", 1}, {"showdialogstring", 2},
-      {"showinfobox", 1}, {"showcontainer", 1}, {"showvideo", 1},     {"stopvideo", 1},
-      {"goto", 1},       {"playlocal", 2},   {"stoplocal", 1},       {"loadsound", 2},
-      {"sethotspot", 2}, {"object", 1},      {"startset", 1},
-  };
-  return table;
-}
 
 const QStringList kComputerWords{"shutdown", "print", "howamidoing", "communitychalkboard", "cleanair", "homecheckup"};
 const QStringList kScreenWords{"howamidoing", "cleanair", "homecheckup"};
@@ -122,12 +113,12 @@ void ScriptCheck::checkLine(const QString& line, Run& run) {
     m_problems.add(where, QStringLiteral("the line begins with a blank, so it does nothing"));
     return;
   }
-  const auto fewest = fewestWords().find(command);
-  if (fewest == fewestWords().end()) {
+  const auto known = std::ranges::find_if(kScriptCommands, [&command](const ScriptCommand& entry) { return command == entry.word; });
+  if (known == kScriptCommands.end()) {
     m_problems.add(where, QStringLiteral("\"%1\" is no command, so the line does nothing").arg(command));
     return;
   }
-  int needed = fewest->second;
+  int needed = known->fewestWords;
   if (command == QLatin1String("goto") && (words.word(1) == QLatin1String("set") || words.word(1) == QLatin1String("shot"))) {
     needed = 2;
   }

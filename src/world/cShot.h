@@ -27,7 +27,7 @@ class cShot {
   QString sName;
   QString ShotToLeft;
   QString ShotToRight;
-  bool GoElapsedTime = false;
+  Boolean16 GoElapsedTime = false;
   i16 NumHotSpots = 0;
   std::vector<std::shared_ptr<cHotSpot>> HotSpots;  // NumHotSpots hotspots, index 0 first
 

@@ -36,14 +36,20 @@ QString named(const QString& label, const QString& name) {
   return name.isEmpty() ? label : QStringLiteral("%1 (%2)").arg(label, writeValue(name));
 }
 
-QString yesNo(bool value) { return value ? QStringLiteral("yes") : QStringLiteral("no"); }
+// A flag the game wrote is -1 or 0; any other value, which a foreign file may hold and the game takes
+// as true, is kept as its number so that the file is built back as it was.
+QString yesNo(Boolean16 value) {
+  if (value.stored() == kTrue) return QStringLiteral("yes");
+  if (value.stored() == kFalse) return QStringLiteral("no");
+  return QString::number(value.stored());
+}
 
 std::vector<const void*> lastRecords(const cSet& set) {
   std::vector<const void*> path{&set};
-  if (set.Shots.empty()) return path;
-  const cShot& shot = *set.Shots.back();
+  if (set.shots().empty()) return path;
+  const cShot& shot = *set.shots().back();
   path.push_back(&shot);
-  if (!shot.HotSpots.empty()) path.push_back(shot.HotSpots.back().get());
+  if (!shot.hotSpots().empty()) path.push_back(shot.hotSpots().back().get());
   return path;
 }
 

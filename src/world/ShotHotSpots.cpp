@@ -13,6 +13,11 @@ namespace {
   throw RuntimeFailure(Failure::SubscriptOutOfRange, QStringLiteral("hotspot %1 of shot '%2'").arg(index).arg(shot.sName));
 }
 
+std::size_t hotSpotSlot(const cShot& shot, i16 index) {
+  if (index < 0 || index >= static_cast<int>(shot.HotSpots.size())) NoSuchHotSpot(shot, index);
+  return static_cast<std::size_t>(index);
+}
+
 }  // namespace
 
 void cShot::SetHotspotState(const QString& name, bool state) {
@@ -26,19 +31,19 @@ void cShot::SetHotspotState(const QString& name, bool state) {
 }
 
 // Not the shifting of the set's shots: the last one fills the gap and the array keeps its size, so
-// the order changes, and with it who wins an overlap and the order saved in the file.
+// the order changes, and with it who wins an overlap and the order saved in the file. An index at or
+// past the count, inside the slots, takes the last hotspot there, out of the count.
 void cShot::DeleteHotSpot(i16 index) {
   const i16 last = subI16(NumHotSpots, 1);
-  if (index < 0 || index > last || last >= static_cast<int>(HotSpots.size()))
-    NoSuchHotSpot(*this, index);
-  HotSpots[index] = HotSpots[last];
-  HotSpots[last].reset();
+  const std::size_t lastSlot = hotSpotSlot(*this, last);
+  HotSpots[hotSpotSlot(*this, index)] = HotSpots[lastSlot];
+  HotSpots[lastSlot].reset();
   NumHotSpots = last;
 }
 
 i16 cShot::AddHotSpot(i16 left, i16 top, i16 width, i16 height) {
   NumHotSpots = addI16(NumHotSpots, 1);
-  HotSpots.resize(NumHotSpots);
+  HotSpots.resize(static_cast<std::size_t>(NumHotSpots) + 1);
   auto hotspot = std::make_shared<cHotSpot>();
   hotspot->Left = left;
   hotspot->Top = top;

@@ -1,5 +1,6 @@
 #include "LiveWorld.h"
 
+#include "FailureOf.h"
 #include "platform/base/Failure.h"
 #include "world/SetFile.h"
 #include "world/cHotSpot.h"
@@ -54,11 +55,27 @@ TEST(HotSpotList, AddKeepsTheDefaultsAndDeleteMovesTheLastIntoTheGap) {
   EXPECT_EQ(shot->HotSpot(0)->Name, QStringLiteral("C"));
   EXPECT_EQ(shot->HotSpot(1)->Name, QStringLiteral("B"));
   EXPECT_FALSE(shot->HotSpot(-1));
-  EXPECT_THROW(shot->HotSpot(2), RuntimeFailure);
+  // The slots stay: the one the last hotspot left and the top one are empty, and past them is a bounds failure.
+  EXPECT_FALSE(shot->HotSpot(2));
+  EXPECT_FALSE(shot->HotSpot(3));
+  EXPECT_EQ(failureOf([&] { shot->HotSpot(4); }), Failure::SubscriptOutOfRange);
   shot->DeleteHotSpot(1);
   shot->DeleteHotSpot(0);
   EXPECT_FALSE(shot->HotSpot(0));
-  EXPECT_THROW(shot->DeleteHotSpot(0), RuntimeFailure);
+  EXPECT_EQ(failureOf([&] { shot->DeleteHotSpot(0); }), Failure::SubscriptOutOfRange);
+}
+
+// A delete at or past the count but inside the slots moves the last hotspot there, out of the count.
+TEST(HotSpotList, DeletingTheTopSlotTakesTheLastOutOfTheCount) {
+  auto shot = makeShot(QStringLiteral("Porch"), {placed(QStringLiteral("A"), 0, 0, 50, 50), placed(QStringLiteral("B"), 0, 0, 50, 50)});
+  EXPECT_EQ(failureOf([&] { shot->DeleteHotSpot(3); }), Failure::SubscriptOutOfRange);
+  EXPECT_EQ(shot->NumHotSpots, 2);
+  shot->DeleteHotSpot(2);
+  EXPECT_EQ(shot->NumHotSpots, 1);
+  EXPECT_FALSE(shot->HotSpot(1));
+  EXPECT_EQ(shot->HotSpot(2)->Name, QStringLiteral("B"));
+  EXPECT_EQ(shot->CheckHotSpots(10, 10), 0);
+  EXPECT_EQ(savedBytes(*shot).size(), cShot::kEmptyRecordSize + cHotSpot::kEmptyRecordSize);
 }
 
 TEST(HotSpotLines, ReadingPastTheEmptyLastLineFailsAndWritingPastTheCountIsIgnored) {

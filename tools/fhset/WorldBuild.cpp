@@ -86,6 +86,9 @@ class WorldParser {
       problem(QStringLiteral("there is no 'set' line; a world file begins with 'set' and the set's name"));
     }
     if (!m_problems.isEmpty()) return {nullptr, m_problems};
+    // As in a set that was read, each list ends in an empty top slot.
+    m_set->Shots.push_back(nullptr);
+    for (const auto& shot : m_set->shots()) shot->HotSpots.push_back(nullptr);
     return {m_set, {}};
   }
 

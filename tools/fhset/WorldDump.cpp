@@ -62,10 +62,10 @@ class DumpWriter {
     field(0, QStringLiteral("set"), set.sName);
     checkHeader(0, set.sHeader, QStringLiteral("Set"), QStringLiteral("the set"));
     const qsizetype countAt = tagSize(set.sHeader) + setfile::kTextLength;
-    checkEnding(0, &set, QStringLiteral("the set"), {set.nNumShots, set.Shots.size(), countAt, "shot"});
+    checkEnding(0, &set, QStringLiteral("the set"), {set.nNumShots, set.shots().size(), countAt, "shot"});
     field(0, QStringLiteral("current-shot"), QString::number(set.nCurrentShot));
     m_offset += ownSize(set);
-    for (std::size_t i = 0; i < set.Shots.size(); ++i) writeShot(*set.Shots[i], static_cast<int>(i));
+    for (std::size_t i = 0; i < set.shots().size(); ++i) writeShot(*set.shots()[i], static_cast<int>(i));
   }
 
   void writeTrailingBytes(qsizetype end) {
@@ -85,13 +85,13 @@ class DumpWriter {
     field(0, QStringLiteral("shot"), shot.sName);
     checkHeader(1, shot.sHeader, QStringLiteral("Shot"), label);
     const qsizetype countAt = m_offset + ownSize(shot) - 2;
-    checkEnding(1, &shot, label, {shot.NumHotSpots, shot.HotSpots.size(), countAt, "hotspot"});
+    checkEnding(1, &shot, label, {shot.NumHotSpots, shot.hotSpots().size(), countAt, "hotspot"});
     optionalField(1, QStringLiteral("to-left"), shot.ShotToLeft);
     optionalField(1, QStringLiteral("to-right"), shot.ShotToRight);
     field(1, QStringLiteral("elapsed-time"), yesNo(shot.GoElapsedTime));
     m_offset += ownSize(shot);
-    for (std::size_t i = 0; i < shot.HotSpots.size(); ++i)
-      writeHotSpot(*shot.HotSpots[i], named(QStringLiteral("hotspot %1 of shot %2").arg(i).arg(index), shot.HotSpots[i]->Name));
+    for (std::size_t i = 0; i < shot.hotSpots().size(); ++i)
+      writeHotSpot(*shot.hotSpots()[i], named(QStringLiteral("hotspot %1 of shot %2").arg(i).arg(index), shot.hotSpots()[i]->Name));
   }
 
   void writeHotSpot(const cHotSpot& hotSpot, const QString& label) {

@@ -59,16 +59,18 @@ i16 cShot::CheckHotSpots(i16 x, i16 y) const {
   for (i16 i = 0; i < NumHotSpots; ++i) {
     if (i >= static_cast<int>(HotSpots.size()) || !HotSpots[i]) NoSuchHotSpot(*this, i);
     const cHotSpot& spot = *HotSpots[i];
-    if (x > spot.Left && x < spot.Left + spot.Width && y > spot.Top && y < spot.Top + spot.Height) return i;
+    // The far edges are 16-bit sums, both taken for every hotspot looked at: one that reaches past
+    // 32767 is an overflow, not a wrap.
+    const i16 right = addI16(spot.Left, spot.Width);
+    const i16 bottom = addI16(spot.Top, spot.Height);
+    if (x > spot.Left && x < right && y > spot.Top && y < bottom) return i;
   }
   return -1;
 }
 
 std::shared_ptr<cHotSpot> cShot::HotSpot(i16 index) const {
   if (index == -1 || NumHotSpots == 0) return nullptr;
-  if (index < 0 || index >= NumHotSpots || index >= static_cast<int>(HotSpots.size()) || !HotSpots[index])
-    NoSuchHotSpot(*this, index);
-  return HotSpots[index];
+  return HotSpots[hotSpotSlot(*this, index)];
 }
 
 }  // namespace fh

@@ -37,6 +37,15 @@ TEST(HitTest, EdgesAreOutsideAndTheLowestIndexWinsEvenWhenDisabled) {
   EXPECT_EQ(makeShot(QStringLiteral("Empty"))->CheckHotSpots(20, 30), -1);
 }
 
+// Both far edges are 16-bit sums, taken for every hotspot looked at, wherever the point is.
+TEST(HitTest, AnEdgePast32767IsAnOverflow) {
+  for (const auto& spot : {placed(QStringLiteral("Wide"), 32700, 0, 68, 10), placed(QStringLiteral("Tall"), 0, 32700, 10, 68)}) {
+    auto shot = makeShot(QStringLiteral("Porch"), {spot});
+    EXPECT_EQ(failureOf([&] { shot->CheckHotSpots(5, 5); }), Failure::Overflow) << spot->Name.toStdString();
+  }
+  EXPECT_EQ(makeShot(QStringLiteral("Porch"), {placed(QStringLiteral("Edge"), 32700, 0, 67, 10)})->CheckHotSpots(32766, 5), 0);
+}
+
 TEST(HotSpotList, AddKeepsTheDefaultsAndDeleteMovesTheLastIntoTheGap) {
   auto shot = makeShot(QStringLiteral("Porch"), {placed(QStringLiteral("A"), 0, 0, 50, 50), placed(QStringLiteral("B"), 0, 0, 50, 50)});
   EXPECT_EQ(shot->AddHotSpot(5, 6, 7, 8), 2);

@@ -53,6 +53,7 @@ std::unique_ptr<ShotView>& theView() {
 QLabel* displayLabel(QWidget* parent, const QString& name, const QString& text, const QColor& colour) {
   auto* label = new QLabel(text, parent);
   label->setObjectName(name);
+  label->setTextFormat(Qt::PlainText);  // world texts are shown as they are written, markup and all
   label->setFont(ArialFont(9, true));
   label->setAlignment(Qt::AlignCenter);
   QPalette palette = label->palette();

@@ -60,6 +60,7 @@ TEST_F(MainView, TheFrameStandsInTheMiddleOfTheScreenWithItsControlsInPlace) {
   EXPECT_EQ(view.Score->pos(), corner + QPoint(240, 31));
   EXPECT_EQ(view.ElapsedTimeView->pos(), corner + QPoint(134, 16));
   EXPECT_EQ(view.TextWindow->geometry(), QRect(corner + QPoint(86, 442), QSize(468, 30)));
+  EXPECT_EQ(view.TextWindow->textFormat(), Qt::PlainText);  // a "<b>" of the world is shown, not obeyed
   EXPECT_EQ(view.btnExit->geometry(), QRect(corner + QPoint(582, 6), QSize(48, 34)));
   EXPECT_EQ(view.btnRight->geometry(), QRect(corner + QPoint(579, 440), QSize(61, 40)));
   EXPECT_TRUE(view.btnStereo->upVisible());

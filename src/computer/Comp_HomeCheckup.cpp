@@ -52,6 +52,7 @@ Control* place(Control* control, const char* name, const QRect& where, const QFo
 
 QLabel* label(QWidget* form, const char* name, const QString& text, const QRect& where, const QFont& font, const QColor& back) {
   auto* made = place(new QLabel(text, form), name, where, font);
+  made->setTextFormat(Qt::PlainText);  // the questions come from the database and are shown as written
   made->setWordWrap(true);
   made->setAlignment(Qt::AlignLeft | Qt::AlignTop);
   made->setAutoFillBackground(true);

@@ -53,6 +53,7 @@ std::unique_ptr<ShotView>& theView() {
 QLabel* displayLabel(QWidget* parent, const QString& name, const QString& text, const QColor& colour) {
   auto* label = new QLabel(text, parent);
   label->setObjectName(name);
+  label->setTextFormat(Qt::PlainText);  // world texts are shown as they are written, markup and all
   label->setFont(ArialFont(9, true));
   label->setAlignment(Qt::AlignCenter);
   QPalette palette = label->palette();
@@ -264,7 +265,7 @@ void ShotView::SetScore(i16 score) {
   Score->setText(QString::number(score));
   // Scores are often set deep in a click's script, long before the event loop runs again.
   Score->repaint();
-  const i16 distance = static_cast<i16>(110 - CurrentScore);
+  const i16 distance = subI16(110, CurrentScore);
   // The platform rounds a half to the even neighbour, as nearbyint does in the default mode.
   MeterTimer.setInterval(static_cast<int>(std::nearbyint(distance / 120.0 * 1000 + 50)));
 }

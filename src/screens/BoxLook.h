@@ -10,6 +10,7 @@ namespace fh {
 inline QLabel* boxTitle(QWidget* box, const QRect& place) {
   auto* title = new QLabel(QStringLiteral("Title"), box);
   title->setObjectName(QStringLiteral("Title"));
+  title->setTextFormat(Qt::PlainText);  // titles come from the database and are shown as written
   title->setGeometry(place);
   title->setFont(ArialFont(12, true));
   return title;

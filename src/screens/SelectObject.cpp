@@ -27,6 +27,7 @@ namespace {
 QLabel* textLabel(QWidget* form, const QString& name, const QString& text, const QRect& place, const QFont& font) {
   auto* label = new QLabel(text, form);
   label->setObjectName(name);
+  label->setTextFormat(Qt::PlainText);  // names and descriptions from the database, shown as written
   label->setGeometry(place);
   label->setFont(font);
   label->setWordWrap(true);

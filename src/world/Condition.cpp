@@ -41,15 +41,17 @@ i16 EvalCondition(const QString& condition) {
 }
 
 // Positions count from 1 as the loop always did: it goes on while the next line would start before
-// the last character.
+// the last character. They are 16-bit: a line end past 32767, or a next line starting there, is an
+// overflow; a last line of any length is read to its end.
 i16 EvalConditions(const QString& conditions) {
-  const int length = static_cast<int>(conditions.size());
-  int position = 1;
+  const qsizetype length = conditions.size();
+  i16 position = 1;
   do {
-    const int lineEnd = InStr(position, conditions, QStringLiteral("\r"));
+    const i16 lineEnd = toI16(InStr(position, conditions, QStringLiteral("\r")));
     const QString line = lineEnd > 0 ? Mid(conditions, position, lineEnd - position) : Mid(conditions, position);
     if (EvalCondition(line) == kFalse) return kFalse;
-    position = lineEnd > 0 ? lineEnd + 2 : length + 1;
+    if (lineEnd == 0) break;
+    position = addI16(lineEnd, 2);
   } while (position < length);
   return kTrue;
 }

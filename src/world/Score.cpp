@@ -17,10 +17,12 @@ void readFirstRow(QueryDef& query, Read read) {
   rows.Close();
 }
 
-float half(i16 baseline, float sum) {
+// A half whose query gave no row is 0, and its baseline is never divided by.
+float half(i16 baseline, std::optional<float> sum) {
+  if (!sum) return 0;
   if (baseline == 0) throw RuntimeFailure(Failure::DivisionByZero, QStringLiteral("score baseline"));
   // The factor is a double, the product is kept in single precision, as the score always was.
-  return static_cast<float>((99.0 / baseline) * sum);
+  return static_cast<float>((99.0 / baseline) * *sum);
 }
 
 }  // namespace
@@ -53,8 +55,8 @@ ScoreSums ReadScoreSums(Database& db, std::int32_t userId) {
 i16 ScoreFrom(const ScoreSums& sums, const ScoreBaselines& baselines) {
   const float selectionPart = half(baselines.objectADR, sums.sumOfADR);
   const float statePart = half(baselines.stateADR, sums.countOfCurrentState);
-  const double points = std::floor(selectionPart * 0.37 + statePart * 0.63 + 0.5);
-  return addI16(CInt(points), 1);  // points is whole already
+  // The sum is narrowed to 16 bits only after the 1 is added; it is whole already.
+  return CInt(std::floor(selectionPart * 0.37 + statePart * 0.63 + 0.5) + 1);
 }
 
 }  // namespace fh

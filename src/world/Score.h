@@ -3,6 +3,7 @@
 #include "platform/base/Values.h"
 
 #include <cstdint>
+#include <optional>
 
 namespace fh {
 
@@ -15,20 +16,22 @@ struct ScoreBaselines {
 };
 
 // The player's two sums: the objects chosen and the states set. Both fall to 0 when all is wise.
+// A sum whose query gave no row is missing.
 struct ScoreSums {
-  float sumOfADR = 0;
-  float countOfCurrentState = 0;
+  std::optional<float> sumOfADR;
+  std::optional<float> countOfCurrentState;
 };
 
 // Reads the baselines; a query that gives no row leaves its value as it was in `current`.
 ScoreBaselines ReadScoreBaselines(Database& db, ScoreBaselines current);
 
-// Reads the player's sums through SelectionScore and StateScore; a query with no row counts 0.
+// Reads the player's sums through SelectionScore and StateScore.
 ScoreSums ReadScoreSums(Database& db, std::int32_t userId);
 
 // The score: 100 for the house as it starts, 1 when every choice is wise, objects weighing 37 and
-// states 63. It is not capped: a house worse than the start scores above 100. A baseline of 0 is a
-// division by zero.
+// states 63. It is not capped: a house worse than the start scores above 100, and one past 32767
+// is an overflow. A missing sum makes its half 0 without looking at the baseline; a baseline of 0
+// under a sum that is there is a division by zero.
 i16 ScoreFrom(const ScoreSums& sums, const ScoreBaselines& baselines);
 
 }  // namespace fh

@@ -5,9 +5,10 @@
 
 #include <QString>
 
+#include <algorithm>
 #include <functional>
-
 #include <memory>
+#include <span>
 #include <vector>
 
 namespace fh {
@@ -51,17 +52,26 @@ QString getText(ByteFile& file, const SetReading& reading);
 // read stays in the record.
 qsizetype roomFor(const ByteFile& file, i16 count, qsizetype recordSize, const char* what);
 
-// Reads `count` child records. Each is stored before it is read, so that a file that ends early
-// leaves what it held.
+// Reads `count` child records into slots 0 to count - 1, and leaves the spare top slot at `count`
+// empty, as the game's array of 0 to count did. Each is stored before it is read, so that a file
+// that ends early leaves what it held.
 template <class Record>
 void loadRecords(ByteFile& file, i16 count, std::vector<std::shared_ptr<Record>>& records, const SetReading& reading,
                  const char* what) {
   records.clear();
-  records.reserve(roomFor(file, count, Record::kEmptyRecordSize, what));
+  records.reserve(roomFor(file, count, Record::kEmptyRecordSize, what) + 1);
   for (i16 i = 0; i < count; ++i) {
     records.push_back(std::make_shared<Record>());
     records.back()->Load(file, reading);
   }
+  records.push_back(nullptr);
+}
+
+// The first `count` slots, as far as there are any: the records without the spare top slot.
+template <class Record>
+std::span<const std::shared_ptr<Record>> counted(const std::vector<std::shared_ptr<Record>>& records, i16 count) {
+  const std::size_t held = std::min(static_cast<std::size_t>(std::max<i16>(count, 0)), records.size());
+  return std::span(records).first(held);
 }
 
 // Writes the first `count` child records; a missing one fails as the game's empty slot did.

@@ -118,21 +118,35 @@ void cSet::reloadContainers() {
   }
 }
 
+namespace {
+
+std::size_t shotSlot(const cSet& set, int index) {
+  if (index < 0 || index >= static_cast<int>(set.Shots.size()))
+    throw RuntimeFailure(Failure::SubscriptOutOfRange, QStringLiteral("shot %1").arg(index));
+  return static_cast<std::size_t>(index);
+}
+
+}  // namespace
+
 i16 cSet::AddShot(const QString& name) {
   nNumShots = addI16(nNumShots, 1);
-  Shots.resize(nNumShots);
+  Shots.resize(static_cast<std::size_t>(nNumShots) + 1);
   auto shot = std::make_shared<cShot>();
   shot->sName = name;
   Shots[nNumShots - 1] = std::move(shot);
   return subI16(nNumShots, 1);
 }
 
-// The order of the other shots is kept. (Hotspots are deleted differently, on purpose.)
+// The shots above the gap move down one, the empty top slot filling the last, so the order of the
+// others is kept. (Hotspots are deleted differently, on purpose.) An index at or past the top moves
+// nothing, yet the count falls and the top slot goes with the resize: the last shot is left in the
+// new top slot, out of the count. With no shots the count falls to -1 and the resize fails.
 void cSet::DeleteShot(i16 index) {
-  if (index < 0 || index >= nNumShots || index >= static_cast<int>(Shots.size()))
-    throw RuntimeFailure(Failure::SubscriptOutOfRange, QStringLiteral("shot %1").arg(index));
-  Shots.erase(Shots.begin() + index);
-  nNumShots = subI16(nNumShots, 1);
+  const i16 last = subI16(nNumShots, 1);
+  for (int i = index; i <= last; ++i) Shots[shotSlot(*this, i)] = Shots[shotSlot(*this, i + 1)];
+  nNumShots = last;
+  if (nNumShots < 0) throw RuntimeFailure(Failure::SubscriptOutOfRange, QStringLiteral("shots 0 to %1").arg(nNumShots));
+  Shots.resize(static_cast<std::size_t>(nNumShots) + 1);
   if (nNumShots == 0) CurrentShot.reset();
 }
 
@@ -145,16 +159,18 @@ void cSet::ShowShot(i16 index) {
   CurrentShotIndex = index;
   // Every move lands in the database at once: a crash loses nothing of the position.
   WriteUserField(QStringLiteral("Current Shot"), CurrentShotIndex);
+  // The empty top slot is written as the position all the same, and only then found empty.
+  if (!CurrentShot) throw RuntimeFailure(Failure::ObjectNotSet, QStringLiteral("shot %1").arg(index));
   ShowDialogString(CurrentShot->FriendlyName());
   CurrentShot->RefreshVisualElements(true);
 }
 
-i16 cSet::CheckHotSpots(i16 x, i16 y) const { return Shot(nCurrentShot)->CheckHotSpots(x, y); }
-
-std::shared_ptr<cShot> cSet::Shot(i16 index) const {
-  if (index < 0 || index >= static_cast<int>(Shots.size()) || !Shots[index])
-    throw RuntimeFailure(Failure::SubscriptOutOfRange, QStringLiteral("shot %1").arg(index));
-  return Shots[index];
+i16 cSet::CheckHotSpots(i16 x, i16 y) const {
+  const std::shared_ptr<cShot> shot = Shot(nCurrentShot);
+  if (!shot) throw RuntimeFailure(Failure::ObjectNotSet, QStringLiteral("shot %1").arg(nCurrentShot));
+  return shot->CheckHotSpots(x, y);
 }
+
+std::shared_ptr<cShot> cSet::Shot(i16 index) const { return Shots[shotSlot(*this, index)]; }
 
 }  // namespace fh

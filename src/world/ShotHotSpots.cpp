@@ -13,6 +13,11 @@ namespace {
   throw RuntimeFailure(Failure::SubscriptOutOfRange, QStringLiteral("hotspot %1 of shot '%2'").arg(index).arg(shot.sName));
 }
 
+std::size_t hotSpotSlot(const cShot& shot, i16 index) {
+  if (index < 0 || index >= static_cast<int>(shot.HotSpots.size())) NoSuchHotSpot(shot, index);
+  return static_cast<std::size_t>(index);
+}
+
 }  // namespace
 
 void cShot::SetHotspotState(const QString& name, bool state) {
@@ -26,19 +31,19 @@ void cShot::SetHotspotState(const QString& name, bool state) {
 }
 
 // Not the shifting of the set's shots: the last one fills the gap and the array keeps its size, so
-// the order changes, and with it who wins an overlap and the order saved in the file.
+// the order changes, and with it who wins an overlap and the order saved in the file. An index at or
+// past the count, inside the slots, takes the last hotspot there, out of the count.
 void cShot::DeleteHotSpot(i16 index) {
   const i16 last = subI16(NumHotSpots, 1);
-  if (index < 0 || index > last || last >= static_cast<int>(HotSpots.size()))
-    NoSuchHotSpot(*this, index);
-  HotSpots[index] = HotSpots[last];
-  HotSpots[last].reset();
+  const std::size_t lastSlot = hotSpotSlot(*this, last);
+  HotSpots[hotSpotSlot(*this, index)] = HotSpots[lastSlot];
+  HotSpots[lastSlot].reset();
   NumHotSpots = last;
 }
 
 i16 cShot::AddHotSpot(i16 left, i16 top, i16 width, i16 height) {
   NumHotSpots = addI16(NumHotSpots, 1);
-  HotSpots.resize(NumHotSpots);
+  HotSpots.resize(static_cast<std::size_t>(NumHotSpots) + 1);
   auto hotspot = std::make_shared<cHotSpot>();
   hotspot->Left = left;
   hotspot->Top = top;
@@ -54,16 +59,18 @@ i16 cShot::CheckHotSpots(i16 x, i16 y) const {
   for (i16 i = 0; i < NumHotSpots; ++i) {
     if (i >= static_cast<int>(HotSpots.size()) || !HotSpots[i]) NoSuchHotSpot(*this, i);
     const cHotSpot& spot = *HotSpots[i];
-    if (x > spot.Left && x < spot.Left + spot.Width && y > spot.Top && y < spot.Top + spot.Height) return i;
+    // The far edges are 16-bit sums, both taken for every hotspot looked at: one that reaches past
+    // 32767 is an overflow, not a wrap.
+    const i16 right = addI16(spot.Left, spot.Width);
+    const i16 bottom = addI16(spot.Top, spot.Height);
+    if (x > spot.Left && x < right && y > spot.Top && y < bottom) return i;
   }
   return -1;
 }
 
 std::shared_ptr<cHotSpot> cShot::HotSpot(i16 index) const {
   if (index == -1 || NumHotSpots == 0) return nullptr;
-  if (index < 0 || index >= NumHotSpots || index >= static_cast<int>(HotSpots.size()) || !HotSpots[index])
-    NoSuchHotSpot(*this, index);
-  return HotSpots[index];
+  return HotSpots[hotSpotSlot(*this, index)];
 }
 
 }  // namespace fh

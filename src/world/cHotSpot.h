@@ -22,8 +22,8 @@ class cHotSpot {
   i16 Height = 0;
   i16 Width = 0;
   i16 Icon = 5;
-  bool Quiet = false;
-  bool Enabled = true;
+  Boolean16 Quiet = false;
+  Boolean16 Enabled = true;
   QString Name;
   QString Rollover;
   i16 NumScriptLines = 0;

@@ -36,7 +36,9 @@ class cSet {
   QString sHeader = QStringLiteral("Set");
   QString sName;
   i16 nNumShots = 0;
-  std::vector<std::shared_ptr<cShot>> Shots;  // nNumShots shots, index 0 first
+  // Slots 0 to nNumShots: the shots, index 0 first, and a spare top slot that stays empty. A set
+  // that was never read nor given a shot has no slots at all.
+  std::vector<std::shared_ptr<cShot>> Shots;
   // Keyed by the lower-cased name.
   std::map<QString, std::shared_ptr<cContainer>> Containers;
   i16 nNumSprites = 0;
@@ -61,15 +63,18 @@ class cSet {
 
   // Appends a new shot of this name and gives its index.
   i16 AddShot(const QString& name);
-  // Removes a shot; those above it move down one, and nCurrentShot stays as it was.
+  // Removes a shot; those above it move down one, and nCurrentShot stays as it was. At or past the
+  // top the count falls all the same, and the last shot is left in the top slot, out of the count.
   void DeleteShot(i16 index);
   // Makes the shot at the index the current one, records it as the user's position and draws it.
   // -1 does nothing at all.
   void ShowShot(i16 index);
   // The hit test on the shot at nCurrentShot.
   i16 CheckHotSpots(i16 x, i16 y) const;
-  // The shot at the index; outside the shots a run-time failure.
+  // The slot at the index: none for the empty top slot, and a run-time failure outside the slots.
   std::shared_ptr<cShot> Shot(i16 index) const;
+  // The nNumShots shots, without the top slot.
+  std::span<const std::shared_ptr<cShot>> shots() const { return setfile::counted(Shots, nNumShots); }
 
  private:
   // Set by the operations that make the set live (LoadAssets, ShowShot): what undoes that when the

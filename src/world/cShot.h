@@ -27,9 +27,11 @@ class cShot {
   QString sName;
   QString ShotToLeft;
   QString ShotToRight;
-  bool GoElapsedTime = false;
+  Boolean16 GoElapsedTime = false;
   i16 NumHotSpots = 0;
-  std::vector<std::shared_ptr<cHotSpot>> HotSpots;  // NumHotSpots hotspots, index 0 first
+  // Slots 0 to NumHotSpots at least: the hotspots, index 0 first, and a spare top slot that stays
+  // empty. A delete doesn't give slots back. A shot that was never read nor given a hotspot has none.
+  std::vector<std::shared_ptr<cHotSpot>> HotSpots;
 
   // The shot's name for the player: "Freindly Name" of its row in table Shots, or sName without one.
   QString FriendlyName() const;
@@ -53,8 +55,11 @@ class cShot {
   // The hit test: the lowest index whose inside holds the point, edges excluded, or -1. Disabled
   // hotspots count: they shield those beneath them.
   i16 CheckHotSpots(i16 x, i16 y) const;
-  // The hotspot at the index; none for -1 or a shot without hotspots, a bounds failure past the end.
+  // The slot at the index: none for -1, for a shot without hotspots and for an empty slot; a bounds
+  // failure outside the slots.
   std::shared_ptr<cHotSpot> HotSpot(i16 index) const;
+  // The NumHotSpots hotspots, without the slots above them.
+  std::span<const std::shared_ptr<cHotSpot>> hotSpots() const { return setfile::counted(HotSpots, NumHotSpots); }
 
   // Appends the record and its hotspots at the file's position.
   void Save(ByteFile& file, const SetWriting& writing = {}) const;

@@ -54,6 +54,7 @@ TEST_F(HomeCheckup, TheEndOfTheListCongratulatesAtEveryNextAndPreviousStopsAtThe
   run("computer homecheckup");
   checkup.btnPrevious->click();
   EXPECT_EQ(checkup.QuestionNumber->text(), QStringLiteral("Question 1"));
+  EXPECT_EQ(checkup.QuestionText->textFormat(), Qt::PlainText);  // questions are shown as written
   for (int i = 0; i < 3; ++i) checkup.btnNext->click();
   EXPECT_EQ(checkup.QuestionNumber->text(), QStringLiteral("Question 3"));
   EXPECT_TRUE(messages().isEmpty());

@@ -7,6 +7,7 @@
 #include "platform/desktop/PictureBox.h"
 #include "world/cShot.h"
 
+#include "FailureOf.h"
 #include "ScriptedUi.h"
 #include "TempFolder.h"
 
@@ -59,6 +60,7 @@ TEST_F(MainView, TheFrameStandsInTheMiddleOfTheScreenWithItsControlsInPlace) {
   EXPECT_EQ(view.Score->pos(), corner + QPoint(240, 31));
   EXPECT_EQ(view.ElapsedTimeView->pos(), corner + QPoint(134, 16));
   EXPECT_EQ(view.TextWindow->geometry(), QRect(corner + QPoint(86, 442), QSize(468, 30)));
+  EXPECT_EQ(view.TextWindow->textFormat(), Qt::PlainText);  // a "<b>" of the world is shown, not obeyed
   EXPECT_EQ(view.btnExit->geometry(), QRect(corner + QPoint(582, 6), QSize(48, 34)));
   EXPECT_EQ(view.btnRight->geometry(), QRect(corner + QPoint(579, 440), QSize(61, 40)));
   EXPECT_TRUE(view.btnStereo->upVisible());
@@ -192,6 +194,8 @@ TEST_F(MainView, TheScoreSetsTheMetersSpeedAndAWinSaysWise) {
     EXPECT_EQ(CurrentScore, score);
     EXPECT_EQ(view.Score->text(), QString::number(score));
   }
+  // The distance from 110 is a 16-bit difference: far below 0 it overflows instead of wrapping.
+  EXPECT_EQ(failureOf([&] { view.SetScore(-32700); }), Failure::Overflow);
   UserHasWonGame = true;
   view.SetScore(37);
   EXPECT_EQ(view.Score->text(), QStringLiteral("wise!"));

@@ -1,23 +1,12 @@
 #include "platform/base/Failure.h"
 #include "platform/base/Values.h"
 
+#include "FailureOf.h"
+
 #include <gtest/gtest.h>
 
 using namespace fh;
-
-namespace {
-
-Failure failureOf(const std::function<void()>& f) {
-  try {
-    f();
-  } catch (const RuntimeFailure& failure) {
-    return failure.kind();
-  }
-  ADD_FAILURE() << "no failure";
-  return Failure::InvalidCall;
-}
-
-}  // namespace
+using fh::test::failureOf;
 
 TEST(Int16, ArithmeticOverflowsAtTheSixteenBitLimits) {
   EXPECT_EQ(addI16(32766, 1), 32767);

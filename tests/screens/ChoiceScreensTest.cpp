@@ -80,6 +80,7 @@ TEST_F(ObjectRing, OpensOnTheStandingObjectAndWalksRoundBothWaysWithTheSwitch) {
   choose("shower", [centred](SelectObject& screen) {
     EXPECT_EQ(screen.geometry(), QRect(centred, QSize(320, 240)));
     EXPECT_EQ(screen.ObjectName->text(), QStringLiteral("Standard Head"));
+    for (const QLabel* worldText : {screen.ObjectName, screen.Description}) EXPECT_EQ(worldText->textFormat(), Qt::PlainText);
     EXPECT_EQ(picture(screen), QColor(Qt::blue));
     EXPECT_TRUE(ModalOpen);
     const std::pair<PictureButton*, const char*> walk[] = {
@@ -154,6 +155,7 @@ TEST_F(ObjectChoice, HelpLiesOverTheScreenAndLeavesItAsItWas) {
     ui.queueModal([](QWidget& form) {
       auto& help = dynamic_cast<ObjectHelp&>(form);
       EXPECT_EQ(help.Title->text(), QStringLiteral("Shower Head"));
+      EXPECT_EQ(help.Title->textFormat(), Qt::PlainText);
       EXPECT_EQ(help.HelpText->Text(), QStringLiteral("Pick the head that pours least."));
       help.btnOK->click();
     });
@@ -231,6 +233,7 @@ TEST_F(InfoBoxes, ShowTheirRowOrTheNameOverNotFoundAndRefreshTheShotOnClosing) {
   ASSERT_EQ(shown(65, 65), QColor(Qt::red));
   info("dripfacts", [](InfoBox& box) {
     EXPECT_EQ(box.Title->text(), QStringLiteral("Drip Facts"));
+    EXPECT_EQ(box.Title->textFormat(), Qt::PlainText);
     EXPECT_EQ(box.Content->Text(), QStringLiteral("A drip a second wastes 3,000 gallons a year.\nFix the washer."));
     EXPECT_TRUE(ModalOpen);
     box.btnOK->click();

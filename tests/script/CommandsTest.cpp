@@ -38,7 +38,7 @@ class Commands : public LiveWorld {
   std::pair<int, int> tap() {
     return {CurrentSet->GetContainer(QStringLiteral("tap")).CurrentState, stored(QStringLiteral("CurrentState"), QStringLiteral("Tap"))};
   }
-  bool enabled(i16 hotSpot) { return CurrentShot->HotSpot(hotSpot)->Enabled; }
+  bool enabled(i16 hotSpot) { return static_cast<bool>(CurrentShot->HotSpot(hotSpot)->Enabled); }
   QStringList missingBackdrops() { return messages().filter(QStringLiteral("backdrops")); }
 };
 

@@ -61,8 +61,8 @@ TEST(FhsetBuild, ProblemsAreToldWithTheirLinesAndNothingIsBuilt) {
 }
 
 TEST(FhsetBuild, EveryProblemIsToldNotOnlyTheFirst) {
-  const fhset::Built built = buildSet("set S\nshot A\n  elapsed-time 1\n  hotspot H\n    left x\n    top 2\n", QStringLiteral("w.txt"));
-  EXPECT_EQ(built.problems, QStringList({QStringLiteral("w.txt:3: expected yes or no, not '1'"),
+  const fhset::Built built = buildSet("set S\nshot A\n  elapsed-time on\n  hotspot H\n    left x\n    top 2\n", QStringLiteral("w.txt"));
+  EXPECT_EQ(built.problems, QStringList({QStringLiteral("w.txt:3: expected yes or no, not 'on'"),
                                          QStringLiteral("w.txt:5: 'x' is not a whole number")}));
 }
 

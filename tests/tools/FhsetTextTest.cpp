@@ -55,6 +55,20 @@ TEST(FhsetText, EveryWorldTheProgramWritesComesBackByteForByte) {
   EXPECT_EQ(rebuilt(savedBytes(set)), savedBytes(set));
 }
 
+// A foreign file may hold a flag as 1, or any value but -1, which the game takes as true: the game
+// and the text form both write it back as it was.
+TEST(FhsetText, FlagsThatAreNeitherMinusOneNorZeroComeBackAsTheyWere) {
+  QByteArray bytes = savedBytes(sampleSet());
+  bytes[71 + 196] = 1;  // the porch's elapsed-time
+  bytes[71 + 196 + 1] = 0;
+  bytes[71 + 200 + 19] = 2;  // the front door's enabled
+  bytes[71 + 200 + 19 + 1] = 0;
+  EXPECT_EQ(savedBytes(loadedFrom<cSet>(bytes)), bytes);
+  const QString text = dumpSetFile(bytes, QStringLiteral("world.set")).text;
+  EXPECT_TRUE(text.contains(QStringLiteral("\n  elapsed-time 1\n")) && text.contains(QStringLiteral("\n    enabled 2\n"))) << text.toStdString();
+  EXPECT_EQ(rebuilt(bytes), bytes);
+}
+
 TEST(FhsetText, DumpOfADamagedFileSaysWhereAndKeepsWhatItRead) {
   QByteArray bytes = savedBytes(sampleSet());
   const fhset::Dump cut = dumpSetFile(bytes.left(71 + 200 + 30), QStringLiteral("world.set"));

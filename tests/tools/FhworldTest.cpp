@@ -258,8 +258,8 @@ TEST(BundledWorld, UsesEveryCommandWithItsOptions) {
       used << command + (words.word(1) == QLatin1String("last") ? QStringLiteral(" last") : QString());
     }
   };
-  for (const auto& shot : house.Shots) {
-    for (const auto& hotSpot : shot->HotSpots) {
+  for (const auto& shot : house.shots()) {
+    for (const auto& hotSpot : shot->hotSpots()) {
       note(hotSpot->Rollover);
       for (const QString& line : hotSpot->ScriptLines) note(line);
     }

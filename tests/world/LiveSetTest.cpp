@@ -1,5 +1,6 @@
 #include "LiveWorld.h"
 
+#include "FailureOf.h"
 #include "platform/base/Failure.h"
 #include "world/SetFile.h"
 #include "world/cSet.h"
@@ -16,6 +17,7 @@ TEST_F(LiveSet, LoadSetBuildsTheAssetsAndShowsTheShotOfTheUsersRecord) {
   CurrentShotIndex = 1;
   LoadSet(QStringLiteral("HOUSE.SET"));
   EXPECT_EQ(CurrentShot, CurrentSet->Shot(1));
+  EXPECT_FALSE(CurrentSet->Shot(2));  // the spare top slot
   EXPECT_EQ(text(), QStringLiteral("The Hall"));
   EXPECT_EQ(view().CurrentBackdrop(), QStringLiteral("Hall.bmp"));
 
@@ -52,6 +54,9 @@ TEST_F(LiveSet, ShowShotRecordsThePositionAtOnceAndMinusOneDoesNothing) {
   EXPECT_EQ(CurrentShot, CurrentSet->Shot(1));
   EXPECT_EQ(stored(QStringLiteral("Current Shot")), 0);
   EXPECT_EQ(text(), QStringLiteral("untouched"));
+  // The empty top slot is recorded as the position, and only then found empty.
+  EXPECT_EQ(failureOf([] { CurrentSet->ShowShot(CurrentSet->nNumShots); }), Failure::ObjectNotSet);
+  EXPECT_EQ(stored(QStringLiteral("Current Shot")), CurrentSet->nNumShots);
 }
 
 // Attic has no row in Shots, no backdrop, and a sprite without cel sources: all are survived.
@@ -78,6 +83,23 @@ TEST(SetShots, DeleteShiftsTheRestDownAndTheLastOneClearsTheCurrentShot) {
   set.DeleteShot(0);
   EXPECT_EQ(set.nNumShots, 0);
   EXPECT_FALSE(CurrentShot);
+}
+
+// The shots run from 0 to nNumShots, whose slot stays empty. A delete at or past it moves nothing,
+// yet the count falls and the resize leaves the last shot in the new top slot, out of the count.
+TEST(SetShots, DeletingAtOrPastTheTopTakesTheLastShotOutOfTheCount) {
+  cSet set = makeSet(QStringLiteral("S"), {makeShot(QStringLiteral("A")), makeShot(QStringLiteral("B"))});
+  EXPECT_FALSE(set.Shot(2));
+  EXPECT_EQ(failureOf([&] { set.Shot(3); }), Failure::SubscriptOutOfRange);
+  set.DeleteShot(7);
+  EXPECT_EQ(set.nNumShots, 1);
+  EXPECT_EQ(set.Shot(1)->sName, QStringLiteral("B"));
+  EXPECT_EQ(failureOf([&] { set.Shot(2); }), Failure::SubscriptOutOfRange);
+  EXPECT_EQ(savedBytes(set).size(), cSet::kEmptyRecordSize + cShot::kEmptyRecordSize);
+  // With no shots left the count falls below 0, where no array can be sized.
+  set.DeleteShot(0);
+  EXPECT_EQ(failureOf([&] { set.DeleteShot(0); }), Failure::SubscriptOutOfRange);
+  EXPECT_EQ(set.nNumShots, -1);
 }
 
 }  // namespace

@@ -2,6 +2,8 @@
 
 #include "platform/base/Failure.h"
 
+#include "FailureOf.h"
+
 #include <gtest/gtest.h>
 
 namespace fh::test {
@@ -17,8 +19,19 @@ TEST(ScoreFrom, TheHouseAsItStartsIsHundredAndTheWiseHouseOne) {
 
 TEST(ScoreFrom, IsNotCappedAndNeedsItsBaselines) {
   EXPECT_EQ(ScoreFrom({200, 3}, {3, 100}), 137);
-  EXPECT_THROW(ScoreFrom({0, 0}, {0, 100}), RuntimeFailure);
-  EXPECT_THROW(ScoreFrom({0, 0}, {3, 0}), RuntimeFailure);
+  EXPECT_EQ(failureOf([] { ScoreFrom({0, 0}, {0, 100}); }), Failure::DivisionByZero);
+  EXPECT_EQ(failureOf([] { ScoreFrom({0, 0}, {3, 0}); }), Failure::DivisionByZero);
+  // A query that gave no row makes its half 0 without dividing by the baseline.
+  EXPECT_EQ(ScoreFrom({std::nullopt, 16}, {16, 0}), 63);
+  EXPECT_EQ(ScoreFrom({}, {0, 0}), 1);
+}
+
+// The 16-bit score is taken after the 1 is added: 32767 + 1 overflows, -32769 + 1 doesn't.
+TEST(ScoreFrom, IsNarrowedToSixteenBitsAfterTheOneIsAdded) {
+  const ScoreBaselines baselines{1, 99};  // the object sum counts as it stands
+  EXPECT_EQ(ScoreFrom({88557, 0}, baselines), 32767);
+  EXPECT_EQ(failureOf([&] { ScoreFrom({88560, 0}, baselines); }), Failure::Overflow);
+  EXPECT_EQ(ScoreFrom({-88565, 0}, baselines), -32768);
 }
 
 }  // namespace

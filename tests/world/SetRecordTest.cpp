@@ -42,8 +42,9 @@ TEST(RecordBytes, HotSpotFieldsStandInTheirOrderWithHeightBeforeWidth) {
   EXPECT_EQ(savedBytes(loadedFrom<cHotSpot>(expected)), expected);
 
   QByteArray one = expected;
-  one[17] = 1;  // any value but 0 is true
+  one[17] = 1;  // any value but 0 is true, and is written back as it was read
   EXPECT_TRUE(loadedFrom<cHotSpot>(one).Quiet);
+  EXPECT_EQ(savedBytes(loadedFrom<cHotSpot>(one)), one);
 }
 
 TEST(FixedTexts, SixtyFourCharactersSurviveAndASixtyFifthIsCut) {

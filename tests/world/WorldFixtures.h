@@ -40,6 +40,7 @@ inline std::shared_ptr<cShot> makeShot(const QString& name, std::vector<std::sha
   shot->sName = name;
   shot->NumHotSpots = static_cast<i16>(hotSpots.size());
   shot->HotSpots = std::move(hotSpots);
+  shot->HotSpots.push_back(nullptr);  // the empty top slot, as a read shot has it
   return shot;
 }
 
@@ -48,6 +49,7 @@ inline cSet makeSet(const QString& name, std::vector<std::shared_ptr<cShot>> sho
   set.sName = name;
   set.nNumShots = static_cast<i16>(shots.size());
   set.Shots = std::move(shots);
+  set.Shots.push_back(nullptr);
   return set;
 }
 

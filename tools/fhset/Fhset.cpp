@@ -45,7 +45,8 @@ begin with # are comments:
 A text is the rest of its line. One that begins with a blank or a double quote, or that
 holds a control character, is written in double quotes with the escapes \\, \" and
 \xHH (a byte of the set file). Texts hold at most 64 Windows-1252 characters. Counts
-follow from the records. A 'header' field keeps a record's tag when it is not the usual
+follow from the records. A flag is yes or no, or the number that a foreign file held
+when it was neither -1 nor 0. A 'header' field keeps a record's tag when it is not the usual
 one, so that a damaged file can be written back as it was.
 
 dump exits with 1 when the file is damaged (it still prints what it read); build exits

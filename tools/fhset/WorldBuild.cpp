@@ -86,6 +86,9 @@ class WorldParser {
       problem(QStringLiteral("there is no 'set' line; a world file begins with 'set' and the set's name"));
     }
     if (!m_problems.isEmpty()) return {nullptr, m_problems};
+    // As in a set that was read, each list ends in an empty top slot.
+    m_set->Shots.push_back(nullptr);
+    for (const auto& shot : m_set->shots()) shot->HotSpots.push_back(nullptr);
     return {m_set, {}};
   }
 
@@ -209,9 +212,13 @@ class WorldParser {
     return value.text;
   }
 
-  std::optional<i16> integer(QStringView written) {
+  static bool looksLikeNumber(QStringView written) {
     static const QRegularExpression wholeNumber(QStringLiteral("^-?[0-9]+$"));
-    if (!wholeNumber.match(written).hasMatch()) {
+    return wholeNumber.match(written).hasMatch();
+  }
+
+  std::optional<i16> integer(QStringView written) {
+    if (!looksLikeNumber(written)) {
       problem(QStringLiteral("'%1' is not a whole number").arg(written.toString()));
       return std::nullopt;
     }
@@ -224,9 +231,14 @@ class WorldParser {
     return static_cast<i16>(number);
   }
 
-  std::optional<bool> yesNo(QStringView written) {
+  // Besides yes and no, a number keeps a flag that a foreign file held as neither -1 nor 0.
+  std::optional<Boolean16> yesNo(QStringView written) {
     if (written == u"yes") return true;
     if (written == u"no") return false;
+    if (looksLikeNumber(written)) {
+      if (const auto number = integer(written)) return Boolean16::fromStored(*number);
+      return std::nullopt;
+    }
     problem(QStringLiteral("expected yes or no, not '%1'").arg(written.toString()));
     return std::nullopt;
   }

@@ -36,14 +36,20 @@ QString named(const QString& label, const QString& name) {
   return name.isEmpty() ? label : QStringLiteral("%1 (%2)").arg(label, writeValue(name));
 }
 
-QString yesNo(bool value) { return value ? QStringLiteral("yes") : QStringLiteral("no"); }
+// A flag the game wrote is -1 or 0; any other value, which a foreign file may hold and the game takes
+// as true, is kept as its number so that the file is built back as it was.
+QString yesNo(Boolean16 value) {
+  if (value.stored() == kTrue) return QStringLiteral("yes");
+  if (value.stored() == kFalse) return QStringLiteral("no");
+  return QString::number(value.stored());
+}
 
 std::vector<const void*> lastRecords(const cSet& set) {
   std::vector<const void*> path{&set};
-  if (set.Shots.empty()) return path;
-  const cShot& shot = *set.Shots.back();
+  if (set.shots().empty()) return path;
+  const cShot& shot = *set.shots().back();
   path.push_back(&shot);
-  if (!shot.HotSpots.empty()) path.push_back(shot.HotSpots.back().get());
+  if (!shot.hotSpots().empty()) path.push_back(shot.hotSpots().back().get());
   return path;
 }
 
@@ -56,10 +62,10 @@ class DumpWriter {
     field(0, QStringLiteral("set"), set.sName);
     checkHeader(0, set.sHeader, QStringLiteral("Set"), QStringLiteral("the set"));
     const qsizetype countAt = tagSize(set.sHeader) + setfile::kTextLength;
-    checkEnding(0, &set, QStringLiteral("the set"), {set.nNumShots, set.Shots.size(), countAt, "shot"});
+    checkEnding(0, &set, QStringLiteral("the set"), {set.nNumShots, set.shots().size(), countAt, "shot"});
     field(0, QStringLiteral("current-shot"), QString::number(set.nCurrentShot));
     m_offset += ownSize(set);
-    for (std::size_t i = 0; i < set.Shots.size(); ++i) writeShot(*set.Shots[i], static_cast<int>(i));
+    for (std::size_t i = 0; i < set.shots().size(); ++i) writeShot(*set.shots()[i], static_cast<int>(i));
   }
 
   void writeTrailingBytes(qsizetype end) {
@@ -79,13 +85,13 @@ class DumpWriter {
     field(0, QStringLiteral("shot"), shot.sName);
     checkHeader(1, shot.sHeader, QStringLiteral("Shot"), label);
     const qsizetype countAt = m_offset + ownSize(shot) - 2;
-    checkEnding(1, &shot, label, {shot.NumHotSpots, shot.HotSpots.size(), countAt, "hotspot"});
+    checkEnding(1, &shot, label, {shot.NumHotSpots, shot.hotSpots().size(), countAt, "hotspot"});
     optionalField(1, QStringLiteral("to-left"), shot.ShotToLeft);
     optionalField(1, QStringLiteral("to-right"), shot.ShotToRight);
     field(1, QStringLiteral("elapsed-time"), yesNo(shot.GoElapsedTime));
     m_offset += ownSize(shot);
-    for (std::size_t i = 0; i < shot.HotSpots.size(); ++i)
-      writeHotSpot(*shot.HotSpots[i], named(QStringLiteral("hotspot %1 of shot %2").arg(i).arg(index), shot.HotSpots[i]->Name));
+    for (std::size_t i = 0; i < shot.hotSpots().size(); ++i)
+      writeHotSpot(*shot.hotSpots()[i], named(QStringLiteral("hotspot %1 of shot %2").arg(i).arg(index), shot.hotSpots()[i]->Name));
   }
 
   void writeHotSpot(const cHotSpot& hotSpot, const QString& label) {

@@ -259,7 +259,7 @@ void ScriptCheck::checkLine(const QString& line, Run& run) {
     const cShot* shot = run.shot.isEmpty() ? nullptr : m_world.shot(run.shot);
     if (shot) {
       bool found = false;
-      for (const auto& hotSpot : shot->HotSpots) found = found || hotSpot->Name.toLower() == name;
+      for (const auto& hotSpot : shot->hotSpots()) found = found || hotSpot->Name.toLower() == name;
       if (!found) {
         m_problems.add(where, QStringLiteral("the shot %1 has no hotspot \"%2\"; the game says \"Hotspot %2 not found in "
                                              "current shot.\"").arg(shot->sName, name));

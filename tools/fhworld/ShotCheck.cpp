@@ -74,7 +74,7 @@ void checkShot(CheckContext& context, ScriptCheck& scripts, const cShot& shot, S
     problems.add(where, QStringLiteral("play time doesn't count while it is shown"));
   }
   QStringList names;
-  for (const auto& hotSpot : shot.HotSpots) {
+  for (const auto& hotSpot : shot.hotSpots()) {
     if (names.contains(hotSpot->Name.toLower())) {
       problems.add(where, QStringLiteral("two hotspots are named %1; scripts reach only the first").arg(hotSpot->Name));
     }
@@ -88,9 +88,9 @@ void checkShot(CheckContext& context, ScriptCheck& scripts, const cShot& shot, S
 std::map<QString, ScriptEffects> checkShots(CheckContext& context, ScriptCheck& scripts) {
   std::map<QString, ScriptEffects> effectsByShot;
   const cSet& set = *context.world.set;
-  if (set.Shots.empty()) context.problems.add(QStringLiteral("set %1").arg(set.sName), QStringLiteral("it has no shots"));
+  if (set.shots().empty()) context.problems.add(QStringLiteral("set %1").arg(set.sName), QStringLiteral("it has no shots"));
   QStringList names;
-  for (const auto& shot : set.Shots) {
+  for (const auto& shot : set.shots()) {
     if (names.contains(shot->sName.toLower())) {
       context.problems.add(QStringLiteral("shot %1").arg(shot->sName),
                            QStringLiteral("two shots have this name; a goto reaches only the last"));
@@ -107,10 +107,10 @@ std::map<QString, ScriptEffects> checkShots(CheckContext& context, ScriptCheck& 
 
 void checkWayToWin(CheckContext& context, const std::map<QString, ScriptEffects>& effectsByShot) {
   const cSet& set = *context.world.set;
-  if (set.Shots.empty()) return;
+  if (set.shots().empty()) return;
   // The first shot is where a new player stands; the computer button leads to "Computer" from anywhere.
   std::set<QString> reached;
-  std::deque<QString> next{set.Shots.front()->sName.toLower(), kComputerShot.toLower()};
+  std::deque<QString> next{set.shots().front()->sName.toLower(), kComputerShot.toLower()};
   ScriptEffects reachable;
   while (!next.empty()) {
     const QString name = next.front();
@@ -125,7 +125,7 @@ void checkWayToWin(CheckContext& context, const std::map<QString, ScriptEffects>
     next.push_back(shot->ShotToLeft.toLower());
     next.push_back(shot->ShotToRight.toLower());
   }
-  for (const auto& shot : set.Shots) {
+  for (const auto& shot : set.shots()) {
     if (!reached.count(shot->sName.toLower())) {
       context.problems.add(QStringLiteral("shot %1").arg(shot->sName), QStringLiteral("no way leads to it from the first shot"));
     }

@@ -45,8 +45,8 @@ bool isThere(const QString& root, const QString& neededPath) {
 void count(const CheckContext& context, const ScriptCheck& scripts, WorldSummary& summary) {
   const WorldData& data = context.world.data;
   if (context.world.set) {
-    summary.shots = static_cast<int>(context.world.set->Shots.size());
-    for (const auto& shot : context.world.set->Shots) summary.hotSpots += shot->NumHotSpots;
+    summary.shots = static_cast<int>(context.world.set->shots().size());
+    for (const auto& shot : context.world.set->shots()) summary.hotSpots += shot->NumHotSpots;
   }
   summary.containers = static_cast<int>(data.containers.size());
   for (const auto& [container, objects] : data.objectsByContainer) summary.objects += static_cast<int>(objects.size());

@@ -12,7 +12,7 @@ WorldIndex::WorldIndex(const WorldData& worldData, QString folder) : data(worldD
 void WorldIndex::useSet(std::shared_ptr<const cSet> worldSet) {
   set = std::move(worldSet);
   shots.clear();
-  for (const auto& shot : set->Shots) shots.emplace(shot->sName.toLower(), shot.get());
+  for (const auto& shot : set->shots()) shots.emplace(shot->sName.toLower(), shot.get());
 }
 
 const ContainerRow* WorldIndex::container(const QString& name) const {

@@ -14,6 +14,24 @@ constexpr i16 kTrue = -1;
 constexpr i16 kFalse = 0;
 inline i16 toBoolean16(bool value) { return value ? kTrue : kFalse; }
 
+// A boolean kept in 16 bits, as the world file keeps it. Set from a bool it holds -1 or 0; read from
+// a file it keeps whatever was there, so that a foreign file's 1 is written back as 1. Any value but
+// 0 is true.
+class Boolean16 {
+ public:
+  constexpr Boolean16(bool value = false) : m_value(value ? kTrue : kFalse) {}
+  static constexpr Boolean16 fromStored(i16 stored) {
+    Boolean16 result;
+    result.m_value = stored;
+    return result;
+  }
+  constexpr explicit operator bool() const { return m_value != kFalse; }
+  constexpr i16 stored() const { return m_value; }
+
+ private:
+  i16 m_value;
+};
+
 // Narrows a whole number to 16 bits; out of range is an Overflow failure.
 i16 toI16(long long value);
 // 16-bit arithmetic that fails where the platform's did.

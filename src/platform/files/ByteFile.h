@@ -31,7 +31,7 @@ class ByteFile {
     const QByteArrayView b = takeBytes(2);
     return static_cast<i16>(static_cast<unsigned char>(b[0]) | (static_cast<unsigned char>(b[1]) << 8));
   }
-  bool getBoolean() { return getInteger() != 0; }
+  Boolean16 getBoolean() { return Boolean16::fromStored(getInteger()); }
   // `length` bytes as text, exactly as they stand (padding included).
   QString getText(qsizetype length);
   // The next `count` bytes, read past; they stay valid while the file lives and nothing is put.
@@ -45,7 +45,7 @@ class ByteFile {
 
   void putBytes(const QByteArray& bytes);
   void putInteger(i16 value);
-  void putBoolean(bool value) { putInteger(toBoolean16(value)); }
+  void putBoolean(Boolean16 value) { putInteger(value.stored()); }
   // Exactly `length` bytes: cut to `length` characters, padded on the right with blanks.
   void putText(const QString& text, qsizetype length);
 

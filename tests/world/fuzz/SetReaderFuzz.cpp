@@ -35,9 +35,9 @@ QByteArray savedBytes(const cSet& set) {
 
 int wrongHeaders(const cSet& set) {
   int wrong = set.sHeader != u"Set";
-  for (const auto& shot : set.Shots) {
+  for (const auto& shot : set.shots()) {
     wrong += shot->sHeader != u"Shot";
-    for (const auto& hotSpot : shot->HotSpots) wrong += hotSpot->sHeader != u"HotSpot";
+    for (const auto& hotSpot : shot->hotSpots()) wrong += hotSpot->sHeader != u"HotSpot";
   }
   return wrong;
 }
@@ -50,10 +50,10 @@ void requireRecordsFit(const cSet& set, qsizetype size) {
   const qsizetype lineRoom = size / setfile::kTextLength + 1;
   qsizetype shots = 0, hotSpots = 0, lines = 0;
   require(static_cast<qsizetype>(set.Shots.capacity()) <= 2 * shotRoom, "shots reserved within the file's size");
-  for (const auto& shot : set.Shots) {
+  for (const auto& shot : set.shots()) {
     ++shots;
     require(static_cast<qsizetype>(shot->HotSpots.capacity()) <= 2 * hotSpotRoom, "hotspots reserved within the file's size");
-    for (const auto& hotSpot : shot->HotSpots) {
+    for (const auto& hotSpot : shot->hotSpots()) {
       ++hotSpots;
       lines += hotSpot->ScriptLines.size();
       require(hotSpot->ScriptLines.capacity() <= 2 * lineRoom, "lines reserved within the file's size");

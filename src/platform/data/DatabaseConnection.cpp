@@ -82,6 +82,17 @@ void DatabaseConnection::requireSameFile() const {
                            .arg(QDir::toNativeSeparators(m_path)));
 }
 
+void DatabaseConnection::keepFailure(const RuntimeFailure& failure) {
+  if (!m_keptFailure) m_keptFailure = failure;
+}
+
+void DatabaseConnection::throwKeptFailure() const {
+  if (!m_keptFailure) return;
+  const RuntimeFailure failure = *m_keptFailure;
+  m_keptFailure.reset();
+  throw failure;
+}
+
 QString DatabaseConnection::damage() const {
   requireOpen();
   QSqlQuery check(QSqlDatabase::database(m_connectionName, false));
@@ -93,6 +104,7 @@ QString DatabaseConnection::damage() const {
 QSqlQuery DatabaseConnection::run(const QString& statement, const QVariantList& values) const {
   requireOpen();
   requireSameFile();
+  throwKeptFailure();
   QSqlQuery query(QSqlDatabase::database(m_connectionName, false));
   query.setForwardOnly(true);
   if (!query.prepare(statement)) failWith(query, statement);
@@ -104,6 +116,7 @@ QSqlQuery DatabaseConnection::run(const QString& statement, const QVariantList& 
 void DatabaseConnection::execute(const QString& statement) const {
   requireOpen();
   requireSameFile();
+  throwKeptFailure();
   QSqlQuery query(QSqlDatabase::database(m_connectionName, false));
   if (!query.exec(statement)) failWith(query, statement);
 }
@@ -111,6 +124,7 @@ void DatabaseConnection::execute(const QString& statement) const {
 QSqlQuery DatabaseConnection::runNamed(const QString& statement, const std::map<QString, QVariant>& placeholders) const {
   requireOpen();
   requireSameFile();
+  throwKeptFailure();
   QSqlQuery query(QSqlDatabase::database(m_connectionName, false));
   query.setForwardOnly(true);
   if (!query.prepare(statement)) failWith(query, statement);

@@ -55,6 +55,12 @@ DatabaseConnection::DatabaseConnection(const QString& designFileName)
   m_path = path;
   m_identity = identityOf(path);
   m_open = true;
+  // The links the schema declares are kept, and that keeps the players' data whole: a removed
+  // player's rows go with the player, also from a table the removal steps don't name, and a row for
+  // a player or a container that isn't there (a game still open for a player removed at another
+  // screen) is refused and told, not written where nothing reads it. Without this the engine only
+  // reads the declarations.
+  execute(QStringLiteral("PRAGMA foreign_keys = ON"));
   makeViewsOfSavedQueries();
 }
 

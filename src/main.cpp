@@ -1,4 +1,5 @@
 #include "platform/base/Guard.h"
+#include "platform/base/Ui.h"
 #include "platform/desktop/Application.h"
 #include "startup/Lending.h"
 #include "startup/Main.h"
@@ -13,7 +14,14 @@ int main(int argc, char** argv) {
   fh::guarded("start-up", fh::Main);
 
   // The program ends through its windows; with none left up there is nothing to wait for.
-  for (const QWidget* window : QApplication::topLevelWidgets())
-    if (window->isVisible()) return QApplication::exec();
-  return 0;
+  int exitCode = 0;
+  for (const QWidget* window : QApplication::topLevelWidgets()) {
+    if (!window->isVisible()) continue;
+    exitCode = QApplication::exec();
+    break;
+  }
+  // Every way out ends here or in a handler's End, and both end through the Ui's quit, so that the
+  // program's last acts run while the application still stands.
+  fh::ui().quit(exitCode);
+  return exitCode;
 }

@@ -24,6 +24,7 @@
 #include <QEvent>
 #include <QGuiApplication>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPainter>
 #include <QPushButton>
 #include <QScreen>
@@ -60,6 +61,16 @@ QLabel* displayLabel(QWidget* parent, const QString& name, const QString& text, 
   palette.setColor(QPalette::WindowText, colour);
   label->setPalette(palette);
   return label;
+}
+
+// A hidden text box whose every change `shown` shows: an inlet for a text given from outside, which
+// no operation of the game writes to.
+QLineEdit* mirrorBox(QWidget* parent, const QString& name, QLabel* shown) {
+  auto* box = new QLineEdit(shown->text(), parent);
+  box->setObjectName(name);
+  box->hide();
+  QObject::connect(box, &QLineEdit::textChanged, shown, &QLabel::setText);
+  return box;
 }
 
 QPushButton* editButton(QWidget* parent, const QString& name, const QString& caption, QSize size) {
@@ -137,9 +148,8 @@ ShotView::ShotView() : MMControl1(MusicDevice()) {
   Score->resize(32, 15);
   TextWindow = displayLabel(this, QStringLiteral("TextWindow"), QString(), Qt::black);
   TextWindow->setWordWrap(true);
-  m_meterView = new QLabel(this);
-  m_meterView->setObjectName(QStringLiteral("Meter"));
-  m_meterView->hide();
+  InScore = mirrorBox(this, QStringLiteral("InScore"), Score);
+  InElapsedTimeView = mirrorBox(this, QStringLiteral("InElapsedTimeView"), ElapsedTimeView);
   btnSetForm = editButton(this, QStringLiteral("btnSetForm"), QStringLiteral("S&et Edit"), {65, 25});
   btnShotEdit = editButton(this, QStringLiteral("btnShotEdit"), QStringLiteral("Sh&otEdit"), {65, 25});
   Save = editButton(this, QStringLiteral("Save"), QStringLiteral("&Save"), {57, 25});
@@ -223,7 +233,6 @@ void ShotView::loadWindow() {
     MMControl1.Shareable = false;
     MMControl1.DeviceType = QStringLiteral("Sequencer");
   });
-  m_meterView->raise();
 }
 
 QPoint ShotView::framePosition() const { return BackPlane->pos(); }
@@ -328,13 +337,18 @@ void ShotView::ElapsedTime_Timer() {
   ElapsedTimeView->setText(ElapsedTimeText(GameElapsedTime));
 }
 
+// The meter is no control: each cell is painted straight onto the frame, above the score, and is
+// shown at once, also in the middle of a long script. Nothing holds it there but the next cell.
 void ShotView::meterTick() {
   if (!m_windowActivated) return;
-  // The cell is painted over the frame, above the score; nothing keeps it there but the next tick.
-  m_meterView->setPixmap(MeterAnim.GraphicCell(m_meterFrame));
-  m_meterView->setGeometry(QRect(framePosition() + kMeterPlace, QSize(MeterAnim.CellWidth(), MeterAnim.CellHeight())));
-  m_meterView->show();
-  m_meterView->repaint();
+  const QPixmap cell = MeterAnim.GraphicCell(m_meterFrame);
+  QPixmap frame = BackPlane->pixmap();
+  QPainter painter(&frame);
+  painter.setCompositionMode(QPainter::CompositionMode_Source);
+  painter.drawPixmap(kMeterPlace, cell);
+  painter.end();
+  BackPlane->setPixmap(frame);
+  BackPlane->repaint(QRect(kMeterPlace, cell.size()));
   ++m_meterFrame;
   if (m_meterFrame > kMeterCells - 1) m_meterFrame = 0;
 }

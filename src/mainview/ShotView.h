@@ -14,6 +14,7 @@
 
 class QKeyEvent;
 class QLabel;
+class QLineEdit;
 class QPushButton;
 
 namespace fh {
@@ -42,6 +43,10 @@ class ShotView : public QWidget, public GameView {
   QLabel* Backdrop = nullptr;         // the loaded backdrop; hidden in play, shown in edit mode
   QLabel* ElapsedTimeView = nullptr;
   QLabel* Score = nullptr;
+  // Hidden text boxes, mirrors with one direction: what is written to them, Score and
+  // ElapsedTimeView show.
+  QLineEdit* InScore = nullptr;
+  QLineEdit* InElapsedTimeView = nullptr;
   QLabel* TextWindow = nullptr;
   ImagePair* btnStereo = nullptr;
   ImagePair* btnComputer = nullptr;
@@ -147,8 +152,6 @@ class ShotView : public QWidget, public GameView {
   bool m_rightDown = false;
   // Seconds of play counted since the play time was last written.
   int m_countedSeconds = 0;
-  // Where the meter's cells are painted over the frame; hidden until the first tick paints one.
-  QLabel* m_meterView = nullptr;
 };
 
 // The one main window, created (and loaded) on first use.

@@ -13,6 +13,9 @@
 
 #include <QKeyEvent>
 
+#include <exception>
+#include <functional>
+
 // How the pointer and the keyboard reach the game: the one mouse dispatcher, its two roads in, the
 // hover test of the game clock, and the key that opens the setup.
 namespace fh {
@@ -27,19 +30,33 @@ std::shared_ptr<cHotSpot> hotSpotOfCurrentShot(i16 index) {
   return hotspot;
 }
 
+enum class SaveFailures { Told, Silent };
+
+// The silent nets of the mouse and of the game clock: whatever fails under them, the game's own
+// failures and the standard library's alike, ends the work without a word and forgets the lit
+// hotspot, which the next tick finds again. Two failures go on up to the guard above: the program's
+// End, and a database file that went away, since nothing more can be kept in it.
+void underSilentNet(i16& currentHotSpotIndex, SaveFailures saveFailures, const std::function<void()>& work) {
+  try {
+    work();
+  } catch (const ProgramEnded&) {
+    throw;
+  } catch (const RuntimeFailure& failure) {
+    currentHotSpotIndex = -1;
+    if (IsLostDatabase(failure)) throw;
+    // What the database refused to keep is no fault of the script, and the player must know it.
+    if (saveFailures == SaveFailures::Told && IsSaveFailure(failure)) TellSaveFailed(failure);
+  } catch (const std::exception&) {
+    currentHotSpotIndex = -1;
+  }
+}
+
 }  // namespace
 
+// The only net under a clicked script: the rest of it is lost. A film asked for by the television
+// ends here.
 void ShotView::HandleMouse(int message, i16 x, i16 y) {
-  try {
-    handleMouseUnguarded(message, x, y);
-  } catch (const RuntimeFailure& failure) {
-    // The only net under a clicked script: the rest of it is lost without a word, and the next tick
-    // finds the hotspot under the pointer again. A film asked for by the television ends here.
-    CurrentHotSpotIndex = -1;
-    // What the database refused to keep is no fault of the script, and the player must know it.
-    if (IsLostDatabase(failure)) throw;
-    if (IsSaveFailure(failure)) TellSaveFailed(failure);
-  }
+  underSilentNet(CurrentHotSpotIndex, SaveFailures::Told, [&] { handleMouseUnguarded(message, x, y); });
 }
 
 void ShotView::handleMouseUnguarded(int message, i16 x, i16 y) {
@@ -90,15 +107,10 @@ void ShotView::MsgBlaster1_Message(int message, std::uint32_t param) {
   HandleMouse(message, toI16(static_cast<int>(x) - DisplayView->x()), toI16(static_cast<int>(y) - DisplayView->y()));
 }
 
-void ShotView::GameClock_Timer() {
-  try {
-    gameClockTick();
-  } catch (const RuntimeFailure& failure) {
-    // Silent, like the mouse's net: a hotspot index that went stale is healed by the next tick.
-    CurrentHotSpotIndex = -1;
-    if (IsLostDatabase(failure)) throw;
-  }
-}
+// A hotspot index that went stale is healed by the next tick. A rollover whose write fails stays
+// silent too: the tick comes 13 times a second, also behind a message box, and would tell it again
+// at each entry.
+void ShotView::GameClock_Timer() { underSilentNet(CurrentHotSpotIndex, SaveFailures::Silent, [this] { gameClockTick(); }); }
 
 void ShotView::gameClockTick() {
   if (!CurrentShot) return;

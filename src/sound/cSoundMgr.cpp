@@ -23,14 +23,6 @@ QString audioPath(const QString& file) { return fileInFolder(audioFolder(), file
 
 }  // namespace
 
-cSoundMgr::~cSoundMgr() {
-  try {
-    UnloadSounds();
-  } catch (...) {
-    // Nothing is left to tell at the end of the program.
-  }
-}
-
 bool cSoundMgr::IsLooped(i16 index) const {
   if (index < 0 || static_cast<std::size_t>(index) >= m_sounds.size())
     throw RuntimeFailure(Failure::SubscriptOutOfRange, QStringLiteral("Sounds(%1)").arg(index));
@@ -154,8 +146,14 @@ void cSoundMgr::UnloadSounds() {
 }
 
 cSoundMgr& SoundMgr() {
-  static cSoundMgr instance;
-  return instance;
+  // Never destroyed, like the devices it closes: its last act runs before the process ends, not
+  // among the destructors of static objects, where the devices and the application may be gone.
+  static cSoundMgr* const instance = [] {
+    auto* manager = new cSoundMgr;
+    atProgramEnd([manager] { manager->UnloadSounds(); });
+    return manager;
+  }();
+  return *instance;
 }
 
 }  // namespace fh

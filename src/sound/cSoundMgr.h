@@ -23,13 +23,12 @@ class cSoundMgr {
   static constexpr i16 kMaxSounds = 20;
 
   cSoundMgr() = default;
-  ~cSoundMgr();
   cSoundMgr(const cSoundMgr&) = delete;
   cSoundMgr& operator=(const cSoundMgr&) = delete;
 
   // The stereo's base pan, kept in the settings. Its start value is set at program start, before
   // Init opens any device; no sound operation reads it.
-  i16 PanBase = 0;
+  i16 PanBase = 1;
   bool DigitalEnabled = false;
   // True while the music device is being switched. Nothing reads it.
   bool MidiChanging = false;
@@ -62,7 +61,8 @@ class cSoundMgr {
   i16 m_numSounds = 0;
 };
 
-// The one sound manager, created on first use.
+// The one sound manager, created on first use. Its last act, when the program ends however it ends,
+// is UnloadSounds.
 cSoundMgr& SoundMgr();
 
 }  // namespace fh

@@ -2,6 +2,7 @@
 
 #include "game/GameState.h"
 #include "platform/base/Failure.h"
+#include "platform/base/Ui.h"
 #include "world/cContainer.h"
 #include "world/cSet.h"
 
@@ -32,9 +33,15 @@ i16 EvalCondition(const QString& condition) {
   const QString keyword = cut(condition, firstBlank + 1, secondBlank).toLower();
   const QString value = condition.mid(secondBlank + 1);
 
-  const cContainer& container = RequireCurrentSet().GetContainer(name);
-  if (keyword == QLatin1String("state")) return toBoolean16(Val(value) == container.CurrentState);
-  const bool holds = StripBlanks(container.CurrentObject).toLower() == value.toLower();
+  const cContainer* container = &RequireCurrentSet().GetContainer(name);
+  // Never true: the look-up fails on an unknown name before it could give none. The message stays
+  // for a look-up that some day answers an unknown name with nothing.
+  if (container == nullptr) {
+    MsgBox(QStringLiteral("Container ") + name + QStringLiteral(" not found!!"));
+    return kFalse;
+  }
+  if (keyword == QLatin1String("state")) return toBoolean16(Val(value) == container->CurrentState);
+  const bool holds = StripBlanks(container->CurrentObject).toLower() == value.toLower();
   if (keyword == QLatin1String("holds")) return toBoolean16(holds);
   if (keyword == QLatin1String("!holds")) return toBoolean16(!holds);
   return kFalse;

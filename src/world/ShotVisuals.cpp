@@ -48,17 +48,23 @@ namespace {
 // Installs the strip of the first cel source whose condition holds: authors rely on the order of
 // the rows. Gives false when none holds. A row with a Null condition or strip doesn't hold.
 bool ApplyFirstHoldingCelSource(cSprite& sprite, Recordset& sources, bool bChange) {
+  bool matched = false;
   for (; !sources.IsEOF(); sources.MoveNext()) {
     const FieldValue condition = sources.Field(QStringLiteral("Condition"));
     const FieldValue celSource = sources.Field(QStringLiteral("CelSource"));
     if (condition.isNull() || celSource.isNull()) continue;
     if (EvalConditions(condition.toText()) != kTrue) continue;
+    // Never shown: the walk ends at the first row that holds, so no row before this one matched.
+    // The flag and its message are kept as the game has always had them; they are no reason to
+    // look at the later rows.
+    if (matched) MsgBox(QStringLiteral("Warning! Multiple true conditions for ") + sprite.Name + QStringLiteral(", using last one."));
+    matched = true;
     const FieldValue sound = sources.Field(QStringLiteral("Sound"));
     sprite.SetCels(celSource.toText(), sound.isNull() ? QString() : sound.toText());
     if (bChange) sprite.Refresh();
-    return true;
+    break;
   }
-  return false;
+  return matched;
 }
 
 }  // namespace

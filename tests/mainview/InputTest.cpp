@@ -10,6 +10,7 @@
 #include "screens/SelectMusic.h"
 #include "sound/SoundControls.h"
 #include "sound/cSoundMgr.h"
+#include "world/Condition.h"
 #include "world/SetFile.h"
 #include "world/cHotSpot.h"
 #include "world/cSet.h"
@@ -22,6 +23,7 @@
 #include <QSqlQuery>
 
 #include <future>
+#include <stdexcept>
 #include <thread>
 
 namespace fh::test {
@@ -212,6 +214,29 @@ TEST_F(ClickRoad, AFailingLineEndsTheScriptSilentlyAndTheNextTickLightsAgain) {
   EXPECT_TRUE(messages().isEmpty());
   tick();
   EXPECT_EQ(view().CurrentHotSpotIndex, 2);
+}
+
+// The standard library's failures are swallowed like the game's own; the program's End goes through.
+TEST_F(ClickRoad, TheNetsSwallowAnyFailureButLetTheProgramsEndThrough) {
+  std::function<void()> fail = [] { throw std::out_of_range("a list too short"); };
+  setConditionTest([&fail](const QString&) -> i16 {
+    fail();
+    return kTrue;
+  });
+  const std::shared_ptr<cHotSpot> tap = CurrentShot->HotSpot(0);
+  tap->SetScriptLine(0, QStringLiteral("if tap state 1"));
+  moveTo(30, 30);
+  tick();
+  press(30, 30);
+  EXPECT_EQ(view().CurrentHotSpotIndex, -1);
+  tap->Rollover = QStringLiteral("if tap state 1");
+  tick();
+  EXPECT_EQ(view().CurrentHotSpotIndex, -1);
+  EXPECT_TRUE(messages().isEmpty());
+
+  fail = [] { EndProgram(); };
+  EXPECT_THROW(tick(), ProgramEnded);
+  setConditionTest({});
 }
 
 TEST_F(ClickRoad, TheTelevisionShowsTheCaptionAndLosesTheLinesBehindIt) {

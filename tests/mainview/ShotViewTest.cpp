@@ -13,6 +13,7 @@
 
 #include <QGuiApplication>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QScreen>
 
@@ -203,13 +204,20 @@ TEST_F(MainView, TheScoreSetsTheMetersSpeedAndAWinSaysWise) {
   EXPECT_EQ(CurrentScore, 1);
 }
 
+// The meter is no control: its cells are painted onto the frame, above the score.
 TEST_F(MainView, TheMeterTurnsCellByCellOnlyOnceTheWindowHasBeenActivated) {
   ShotView& view = TheShotView();
+  const auto meterShown = [&view] {
+    return view.BackPlane->pixmap().toImage().copy(240, 0, 32, 29).convertToFormat(QImage::Format_RGB32);
+  };
+  const auto cell = [&view](int index) { return view.MeterAnim.GraphicCell(index).toImage().convertToFormat(QImage::Format_RGB32); };
+  const QImage frameAlone = meterShown();
   view.SetScore(100);
   QCoreApplication::processEvents();
   EXPECT_FALSE(view.WindowActivated());
   view.MeterTimer.onTick();
   EXPECT_EQ(view.MeterFrame(), 0);
+  EXPECT_EQ(meterShown(), frameAlone);
 
   view.showView();
   for (int i = 0; i < 50 && !view.WindowActivated(); ++i) QCoreApplication::processEvents(QEventLoop::AllEvents, 20);
@@ -217,8 +225,24 @@ TEST_F(MainView, TheMeterTurnsCellByCellOnlyOnceTheWindowHasBeenActivated) {
   for (int tick = 1; tick <= 24; ++tick) {
     view.MeterTimer.onTick();
     EXPECT_EQ(view.MeterFrame(), tick % 24);
+    EXPECT_EQ(meterShown(), cell(tick - 1)) << tick;
   }
   view.hide();
+}
+
+// The hidden boxes are an inlet to the displays, and only to them.
+TEST_F(MainView, TextsWrittenToTheHiddenMirrorsShowInScoreAndPlayTimeAlone) {
+  ShotView& view = TheShotView();
+  EXPECT_EQ(view.InScore->text(), QStringLiteral("100"));
+  EXPECT_EQ(view.InElapsedTimeView->text(), QStringLiteral("0:00:00"));
+  EXPECT_FALSE(view.InScore->isVisibleTo(&view));
+  EXPECT_FALSE(view.InElapsedTimeView->isVisibleTo(&view));
+  CurrentScore = 55;
+  view.InScore->setText(QStringLiteral("42"));
+  view.InElapsedTimeView->setText(QStringLiteral("1:02:03"));
+  EXPECT_EQ(view.Score->text(), QStringLiteral("42"));
+  EXPECT_EQ(view.ElapsedTimeView->text(), QStringLiteral("1:02:03"));
+  EXPECT_EQ(CurrentScore, 55);
 }
 
 TEST_F(MainView, ExitRefusesWhileAComputerScreenIsOpen) {

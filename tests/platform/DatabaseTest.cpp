@@ -33,6 +33,7 @@ INSERT INTO SavedQueryParameters VALUES ('GetHolding', 'Select User', 'Long'), (
 INSERT INTO SavedQueries VALUES ('AllThings', 'SELECT Name AS "Things.Name", Amount FROM Things ORDER BY Amount', NULL, NULL);
 INSERT INTO SavedQueries VALUES ('Forget User', 'DELETE FROM Holdings WHERE UserID = :User_ID', NULL, NULL);
 INSERT INTO SavedQueryParameters VALUES ('Forget User', 'User ID', 'Long');
+INSERT INTO SavedQueries VALUES ('End Transaction', 'COMMIT', NULL, NULL);
 )sql";
 
 Failure failureOf(const std::function<void()>& f, QString* message = nullptr) {
@@ -195,6 +196,20 @@ TEST_F(DataLayer, AFileRemovedOrReplacedWhileOpenIsNotWrittenInto) {
   ASSERT_TRUE(QFile::rename(file, file + QStringLiteral(".moved")));
   ASSERT_TRUE(QFile::copy(file + QStringLiteral(".moved"), file));
   EXPECT_EQ(failureOf([&] { db->OpenRecordset(QStringLiteral("Things")); }), Failure::DatabaseFileNotFound);
+}
+
+// A recordset that ends open can't throw; a new row of it that can't be taken back is told by the
+// next statement, once.
+TEST_F(DataLayer, ANewRowThatCantBeTakenBackWhenItsRecordsetEndsFailsTheNextStatement) {
+  {
+    Recordset users = db->OpenRecordset(QStringLiteral("Users"));
+    users.AddNew();
+    db->QueryDefs(QStringLiteral("End Transaction")).Execute();  // the row's transaction ends under it
+  }
+  QString message;
+  EXPECT_EQ(failureOf([&] { db->OpenRecordset(QStringLiteral("Things")); }, &message), Failure::DatabaseFailure);
+  EXPECT_TRUE(message.contains(QStringLiteral("rollback"), Qt::CaseInsensitive)) << message.toStdString();
+  EXPECT_EQ(db->OpenRecordset(QStringLiteral("Things")).RecordCount(), 3);
 }
 
 // A row that another program removed can't take a change: the write says so.

@@ -69,6 +69,20 @@ TEST_F(SoundManager, UnloadSoundsLeavesTheLoadedDevicesOpenForTheNextLoad) {
   EXPECT_TRUE(SoundMgr().PlayLocal(QStringLiteral("c"), 0, false));
 }
 
+// The manager stands before Init with the stereo's base at 1. When the program ends, its last act
+// unloads the sounds and closes the music.
+TEST_F(SoundManager, ItStartsWithPanBaseOneAndItsLastActSilencesEverything) {
+  EXPECT_EQ(cSoundMgr().PanBase, 1);
+  m_ui.queueAnswer(Answer::Cancel);  // an unexpected CD prompt ends the test instead of asking forever
+  load(QStringLiteral("a.wav"), QStringLiteral("A"), 100);
+  m_folder.write(QStringLiteral("Audio/ROCK1.mid"), noteMidi(600));
+  SoundMgr().PlayMidi(QStringLiteral("ROCK1.mid"));
+  runProgramEndActs();
+  EXPECT_EQ(SoundMgr().NumSounds(), 0);
+  EXPECT_FALSE(SoundMgr().DigitalEnabled);
+  EXPECT_EQ(MusicDevice().Mode(), kModeNotOpen);
+}
+
 TEST_F(SoundManager, PlayMidiOpensThePieceAgainAfterDisableClosedIt) {
   m_ui.queueAnswer(Answer::Cancel);  // an unexpected CD prompt ends the test instead of asking forever
   m_folder.write(QStringLiteral("Audio/ROCK1.mid"), noteMidi(600));

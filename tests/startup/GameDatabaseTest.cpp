@@ -92,7 +92,7 @@ TEST_F(GameDatabase, NewUserStartsAtTheBaselinesAndMakingRowsTwiceAddsNothing) {
   EXPECT_EQ(rowsOf(QStringLiteral("UserContainers"), QStringLiteral("User ID"), 1), 5);
 }
 
-TEST_F(GameDatabase, RemovalLeavesNothingOfThePlayerForALaterOneWithTheSameId) {
+TEST_F(GameDatabase, RemovalLeavesNothingOfThePlayer) {
   execute(QStringLiteral("Remove User Step 1"), QStringLiteral("SelectUserID"), 2);
   execute(QStringLiteral("Remove User Step 2"), QStringLiteral("SelectUserID"), 2);
   db->OpenRecordset(QStringLiteral("SELECT * FROM Users WHERE \"User Name\" = ?"), {QStringLiteral("wendy")}).Delete();
@@ -100,11 +100,12 @@ TEST_F(GameDatabase, RemovalLeavesNothingOfThePlayerForALaterOneWithTheSameId) {
   EXPECT_EQ(rowsOf(QStringLiteral("HomeCheckupAnswers"), QStringLiteral("User ID"), 2), 0);
   EXPECT_EQ(rowsOf(QStringLiteral("UserContainers"), QStringLiteral("User ID"), 3), 5);  // others keep theirs
 
-  // The database may hand out the same ID again: the new player must start from the beginning.
-  QueryDef make = db->QueryDefs(QStringLiteral("Make New User"));
-  make.SetParameter(QStringLiteral("User ID"), 2);
-  make.Execute();
-  EXPECT_EQ(scores(2), std::make_pair(117.0, 3.0));
+  // The links hold besides the steps: a player's rows go with the player's own row, and none can
+  // be made for a player who isn't there.
+  db->OpenRecordset(QStringLiteral("SELECT * FROM Users WHERE ID = 3")).Delete();
+  EXPECT_EQ(rowsOf(QStringLiteral("UserContainers"), QStringLiteral("User ID"), 3), 0);
+  EXPECT_THROW(execute(QStringLiteral("Make New User"), QStringLiteral("User ID"), 2), RuntimeFailure);
+  EXPECT_EQ(rowsOf(QStringLiteral("UserContainers"), QStringLiteral("User ID"), 2), 0);
 }
 
 TEST_F(GameDatabase, GetContainerEditsThisUsersRowOnly) {

@@ -85,6 +85,11 @@ TEST_F(FhdbBuild, ARebuildKeepsThePlayersWithACopyAndGivesThemTheNewContainers) 
   EXPECT_EQ(state.OpenRecordset().Field(QStringLiteral("CountOfCurrentState")).toI16(), 2);  // Lamp and the new Fridge
   EXPECT_EQ(game->OpenRecordset(QStringLiteral("UserContainers")).RecordCount(), 3);
   EXPECT_FALSE(QFile::exists(target + QStringLiteral(".new")));
+
+  // A world without the tap still takes the player's row for it, kept for a world that brings it back.
+  QFile::remove(report.copyKept);  // copies are named to the second
+  EXPECT_EQ(fhdb::buildDatabase(target, world("Lamp Fridge")).playersKept, 1);
+  EXPECT_EQ(game->OpenRecordset(QStringLiteral("UserContainers")).RecordCount(), 3);
 }
 
 // A removed player's ID is never given again, also not after a rebuild.

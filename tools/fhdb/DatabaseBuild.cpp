@@ -150,6 +150,12 @@ BuildReport buildDatabase(const QString& target, const QStringList& sources) {
     DatabaseConnection db(target);
     if (playerCount(db) > 0) report.copyKept = keepDatedCopy(db, target);
     db.run(QStringLiteral("ATTACH DATABASE ? AS %1").arg(kWorldSchema), {fresh});
+    // The world is swapped from under the players' rows, so its links go unchecked on this one
+    // connection (the setting can't change inside the transaction): checked, dropping the old tables
+    // would take the players' rows along or be refused, and a container or question that the new
+    // world lacks would refuse a player's row for it. The rows come back whole; one that names what
+    // the world dropped is read by nothing, and is there again if a later world brings that back.
+    db.execute(QStringLiteral("PRAGMA foreign_keys = OFF"));
     // The write lock is taken at once: a game's writes wait until the new world is whole.
     db.execute(QStringLiteral("BEGIN IMMEDIATE"));
     try {

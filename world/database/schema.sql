@@ -25,8 +25,9 @@
 -- 5. Plain SQL where it can be (CAST, COALESCE, CASE, SUM, COUNT, joins, EXISTS), so that the
 --    database ports to another engine with little work.
 --
--- Foreign keys document the links and are enforced when the connection turns them on
--- (PRAGMA foreign_keys = ON). Row files therefore add Containers before Objects, Sprites
+-- Foreign keys are enforced: every connection of the game and of the tools turns them on
+-- (PRAGMA foreign_keys = ON), fhdb's in-place rebuild alone turns them off while it swaps the
+-- world under the players' rows. Row files therefore add Containers before Objects, Sprites
 -- before SpriteCelSources, and Users before their UserContainers and HomeCheckupAnswers.
 --
 -- Names of tables and columns are what the game reads, spelling included

@@ -6,6 +6,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <utility>
+#include <vector>
 
 namespace fh {
 
@@ -30,6 +31,7 @@ class HeadlessUi final : public Ui {
     if (QCoreApplication::instance()) QCoreApplication::processEvents();
   }
   void quit(int exitCode) override {
+    runProgramEndActs();
     std::fflush(stdout);
     std::fflush(stderr);
     std::_Exit(exitCode);
@@ -38,6 +40,11 @@ class HeadlessUi final : public Ui {
 
 HeadlessUi headless;
 Ui* current = nullptr;
+
+std::vector<std::function<void()>>& programEndActs() {
+  static std::vector<std::function<void()>> acts;
+  return acts;
+}
 
 }  // namespace
 
@@ -54,5 +61,18 @@ QString InputBox(const QString& prompt, const QString& title) {
 }
 
 void DoEvents() { ui().yield(); }
+
+void atProgramEnd(std::function<void()> act) { programEndActs().push_back(std::move(act)); }
+
+void runProgramEndActs() {
+  const std::vector<std::function<void()>> acts = std::exchange(programEndActs(), {});
+  for (auto act = acts.rbegin(); act != acts.rend(); ++act) {
+    try {
+      (*act)();
+    } catch (...) {
+      // Nobody is left to tell, and the process must end all the same.
+    }
+  }
+}
 
 }  // namespace fh

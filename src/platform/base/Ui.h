@@ -2,6 +2,8 @@
 
 #include <QString>
 
+#include <functional>
+
 class QLineEdit;
 class QWidget;
 
@@ -32,7 +34,7 @@ class Ui {
   virtual void showModal(QWidget& form) = 0;
   // Lets the event loop run once: repaints, timers and input that are waiting.
   virtual void yield() = 0;
-  // Ends the process with this exit code, from wherever it is.
+  // Ends the process with this exit code, from wherever it is, after the program's last acts.
   virtual void quit(int exitCode) = 0;
 };
 
@@ -47,5 +49,13 @@ Ui* setUi(Ui* replacement);
 Answer MsgBox(const QString& text, Buttons buttons = Buttons::Ok, const QString& title = {}, const QString& details = {});
 QString InputBox(const QString& prompt, const QString& title = {});
 void DoEvents();
+
+// What the program does last, however it ends: just before the process goes, while the application
+// and its devices still stand, each act runs once, the latest registered first. An act must not wait
+// for the player, and a failure in one is passed over: the program is ending either way.
+void atProgramEnd(std::function<void()> act);
+// Runs the last acts registered so far and forgets them. Every Ui's quit that ends the process
+// calls it first.
+void runProgramEndActs();
 
 }  // namespace fh

@@ -55,6 +55,12 @@ DatabaseConnection::DatabaseConnection(const QString& designFileName)
   m_path = path;
   m_identity = identityOf(path);
   m_open = true;
+  // The links the schema declares are kept, and that keeps the players' data whole: a removed
+  // player's rows go with the player, also from a table the removal steps don't name, and a row for
+  // a player or a container that isn't there (a game still open for a player removed at another
+  // screen) is refused and told, not written where nothing reads it. Without this the engine only
+  // reads the declarations.
+  execute(QStringLiteral("PRAGMA foreign_keys = ON"));
   makeViewsOfSavedQueries();
 }
 
@@ -82,6 +88,17 @@ void DatabaseConnection::requireSameFile() const {
                            .arg(QDir::toNativeSeparators(m_path)));
 }
 
+void DatabaseConnection::keepFailure(const RuntimeFailure& failure) {
+  if (!m_keptFailure) m_keptFailure = failure;
+}
+
+void DatabaseConnection::throwKeptFailure() const {
+  if (!m_keptFailure) return;
+  const RuntimeFailure failure = *m_keptFailure;
+  m_keptFailure.reset();
+  throw failure;
+}
+
 QString DatabaseConnection::damage() const {
   requireOpen();
   QSqlQuery check(QSqlDatabase::database(m_connectionName, false));
@@ -93,6 +110,7 @@ QString DatabaseConnection::damage() const {
 QSqlQuery DatabaseConnection::run(const QString& statement, const QVariantList& values) const {
   requireOpen();
   requireSameFile();
+  throwKeptFailure();
   QSqlQuery query(QSqlDatabase::database(m_connectionName, false));
   query.setForwardOnly(true);
   if (!query.prepare(statement)) failWith(query, statement);
@@ -104,6 +122,7 @@ QSqlQuery DatabaseConnection::run(const QString& statement, const QVariantList& 
 void DatabaseConnection::execute(const QString& statement) const {
   requireOpen();
   requireSameFile();
+  throwKeptFailure();
   QSqlQuery query(QSqlDatabase::database(m_connectionName, false));
   if (!query.exec(statement)) failWith(query, statement);
 }
@@ -111,6 +130,7 @@ void DatabaseConnection::execute(const QString& statement) const {
 QSqlQuery DatabaseConnection::runNamed(const QString& statement, const std::map<QString, QVariant>& placeholders) const {
   requireOpen();
   requireSameFile();
+  throwKeptFailure();
   QSqlQuery query(QSqlDatabase::database(m_connectionName, false));
   query.setForwardOnly(true);
   if (!query.prepare(statement)) failWith(query, statement);

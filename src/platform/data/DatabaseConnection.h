@@ -5,6 +5,8 @@
 #include <QString>
 #include <QVariantList>
 
+#include "platform/base/Failure.h"
+
 #include <map>
 #include <optional>
 
@@ -63,16 +65,23 @@ class DatabaseConnection {
   bool beginPendingInsert();
   void endPendingInsert(bool keep);
 
+  // A failure that could not be thrown where it happened: the next statement fails with it instead
+  // of running. Only the first is kept until then.
+  void keepFailure(const RuntimeFailure& failure);
+
  private:
   void makeViewsOfSavedQueries();
 
   void requireSameFile() const;
+  // Every statement's first check after the file's: a kept failure is thrown, once.
+  void throwKeptFailure() const;
 
   QString m_connectionName;
   QString m_path;
   FileIdentity m_identity;
   bool m_open = false;
   bool m_insertPending = false;
+  mutable std::optional<RuntimeFailure> m_keptFailure;
 };
 
 // Quotes a table or column name for a statement.

@@ -41,12 +41,15 @@ Recordset::Recordset(std::shared_ptr<DatabaseConnection> connection, QStringList
   d->target = std::move(target);
 }
 
+// Recordsets are closed where they are used; one that ends open mostly does so while another
+// failure goes up past it, between an AddNew and its Update. A destructor can't throw, so a failure
+// to take the new row back waits on the connection, and the next statement there fails with it.
 Recordset::~Recordset() {
   if (!d) return;
   try {
     Close();
-  } catch (const RuntimeFailure&) {
-    // A destructor can't report; Close() explicitly to see the failure.
+  } catch (const RuntimeFailure& failure) {
+    d->connection->keepFailure(failure);
   }
 }
 
@@ -226,13 +229,15 @@ void Recordset::Delete() {
   d->deleted[d->position] = true;
 }
 
+// A new row that waits for its Update is taken back; if that fails, the recordset is closed all
+// the same and the failure goes on up.
 void Recordset::Close() {
   if (d->closed) return;
-  CancelUpdate();
   d->closed = true;
   d->rows.clear();
   d->deleted.clear();
   d->position = 0;
+  CancelUpdate();
 }
 
 }  // namespace fh

@@ -27,6 +27,8 @@ class Recordset {
 
   Recordset(std::shared_ptr<DatabaseConnection> connection, QStringList columns, std::vector<std::vector<QVariant>> rows,
             Target target);
+  // Closes the rows if they are open. A failure of that can't be thrown from here: the next
+  // statement on the database fails with it instead.
   ~Recordset();
   Recordset(Recordset&&) noexcept;
   Recordset& operator=(Recordset&&) noexcept;

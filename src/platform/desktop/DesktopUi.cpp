@@ -81,7 +81,9 @@ DesktopUi& desktopUi() {
 }
 
 void DesktopUi::quit(int exitCode) {
-  // The program's End leaves every loop and window at once, nested modal loops included.
+  // The program's End leaves every loop and window at once, nested modal loops included. Its last
+  // acts run first, here, while the application still stands: no static object's destructor runs.
+  runProgramEndActs();
   std::fflush(stdout);
   std::fflush(stderr);
   std::_Exit(exitCode);

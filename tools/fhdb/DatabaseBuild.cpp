@@ -41,7 +41,10 @@ void requireGameDatabase(const QString& target) {
 
 // A copy of the file as it stands, named for the moment it was made.
 QString keepDatedCopy(DatabaseConnection& db, const QString& target) {
-  const QString copy = target + QDateTime::currentDateTime().toString(QStringLiteral("'.'yyyy-MM-dd-HHmmss'.bak'"));
+  const QString stem = target + QDateTime::currentDateTime().toString(QStringLiteral("'.'yyyy-MM-dd-HHmmss"));
+  // Two rebuilds within a second each keep their copy.
+  QString copy = stem + QStringLiteral(".bak");
+  for (int second = 2; QFileInfo::exists(copy); ++second) copy = stem + QStringLiteral("-%1.bak").arg(second);
   db.run(QStringLiteral("VACUUM INTO ?"), {copy});
   return copy;
 }

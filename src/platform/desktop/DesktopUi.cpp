@@ -36,6 +36,8 @@ Answer DesktopUi::messageBox(const QString& text, Buttons buttons, const QString
   QMessageBox box(QMessageBox::NoIcon, title, text,
                   buttons == Buttons::OkCancel ? QMessageBox::Ok | QMessageBox::Cancel : QMessageBox::Ok);
   box.setDefaultButton(QMessageBox::Ok);
+  // Messages carry names and texts of the world: markup in them is shown, not obeyed.
+  box.setTextFormat(Qt::PlainText);
   if (!details.isEmpty()) box.setDetailedText(details);
   return box.exec() == QMessageBox::Cancel ? Answer::Cancel : Answer::Ok;
 }

@@ -7,14 +7,7 @@
 
 namespace fh {
 
-i16 toI16(long long value) {
-  if (value < std::numeric_limits<i16>::min() || value > std::numeric_limits<i16>::max())
-    throw RuntimeFailure(Failure::Overflow);
-  return static_cast<i16>(value);
-}
-
-i16 addI16(i16 a, i16 b) { return toI16(static_cast<long long>(a) + b); }
-i16 subI16(i16 a, i16 b) { return toI16(static_cast<long long>(a) - b); }
+void failOverflow() { throw RuntimeFailure(Failure::Overflow); }
 
 i16 CInt(double value) {
   if (std::isnan(value)) throw RuntimeFailure(Failure::Overflow);

@@ -32,11 +32,16 @@ class Boolean16 {
   i16 m_value;
 };
 
+// The Overflow failure, out of line: the checks below stay cheap enough for the hit test.
+[[noreturn]] void failOverflow();
 // Narrows a whole number to 16 bits; out of range is an Overflow failure.
-i16 toI16(long long value);
+inline i16 toI16(long long value) {
+  if (value < -32768 || value > 32767) failOverflow();
+  return static_cast<i16>(value);
+}
 // 16-bit arithmetic that fails where the platform's did.
-i16 addI16(i16 a, i16 b);
-i16 subI16(i16 a, i16 b);
+inline i16 addI16(i16 a, i16 b) { return toI16(static_cast<long long>(a) + b); }
+inline i16 subI16(i16 a, i16 b) { return toI16(static_cast<long long>(a) - b); }
 
 // Rounds to the nearest whole number, a half to the even neighbour, then narrows to 16 bits.
 i16 CInt(double value);

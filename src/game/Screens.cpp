@@ -31,4 +31,10 @@ void ShowSetup() { lent(screens().setup, "the setup dialog")(); }
 
 void EndSession() { lent(screens().endGame, "the end of the session")(); }
 
+void ShowHotSpotDialog() { lent(screens().hotSpotDialog, "the hotspot dialog")(); }
+
+void ShowSetDialog() { lent(screens().setDialog, "the set dialog")(); }
+
+void ShowShotDialog() { lent(screens().shotDialog, "the shot dialog")(); }
+
 }  // namespace fh

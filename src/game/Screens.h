@@ -60,6 +60,11 @@ struct Screens {
   std::function<void()> setup;
   // What Exit does: the session ends and the opening screen comes back.
   std::function<void()> endGame;
+  // The authoring dialogs, shown modally: the hotspot at CurrentHotSpotIndex of the shown shot, the
+  // set with its shots, and the shown shot.
+  std::function<void()> hotSpotDialog;
+  std::function<void()> setDialog;
+  std::function<void()> shotDialog;
 };
 
 // Where the upper layers lend their windows.
@@ -72,5 +77,8 @@ ComputerScreen* ComputerScreenFor(i16 number);
 void ShowMusicDialog(const QRect& view, const QPixmap& picture);
 void ShowSetup();
 void EndSession();
+void ShowHotSpotDialog();
+void ShowSetDialog();
+void ShowShotDialog();
 
 }  // namespace fh

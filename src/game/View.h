@@ -48,6 +48,16 @@ class GameView {
 
   // The hover test's clock: it is off while the world is half built.
   virtual void setGameClockRunning(bool running) = 0;
+
+  // Edit mode, in which the shot's hotspots are drawn as named outlines over its plain backdrop.
+  // modeDebug enters it and EditOff leaves it; both do nothing without a shot.
+  virtual void modeDebug() = 0;
+  virtual void EditOff() = 0;
+  // The outlines, one for each hotspot of the current shot, and the name one of them shows. Call
+  // UnSetHighlights before the number of hotspots changes, and SetHighlights after.
+  virtual void SetHighlights() = 0;
+  virtual void UnSetHighlights() = 0;
+  virtual void setHighlightCaption(i16 index, const QString& caption) = 0;
 };
 
 // The view in use; without one, "Object variable not set".

@@ -150,6 +150,7 @@ ShotView::ShotView() : MMControl1(MusicDevice()) {
   TextWindow->setWordWrap(true);
   InScore = mirrorBox(this, QStringLiteral("InScore"), Score);
   InElapsedTimeView = mirrorBox(this, QStringLiteral("InElapsedTimeView"), ElapsedTimeView);
+  Highlight.push_back(newHighlight());
   btnSetForm = editButton(this, QStringLiteral("btnSetForm"), QStringLiteral("S&et Edit"), {65, 25});
   btnShotEdit = editButton(this, QStringLiteral("btnShotEdit"), QStringLiteral("Sh&otEdit"), {65, 25});
   Save = editButton(this, QStringLiteral("Save"), QStringLiteral("&Save"), {57, 25});

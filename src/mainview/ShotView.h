@@ -57,6 +57,8 @@ class ShotView : public QWidget, public GameView {
   QPushButton* btnShotEdit = nullptr;
   QPushButton* Save = nullptr;
   PictureBox* VideoSys = nullptr;  // set aside for films; nothing shows it
+  // Edit mode's outlines, one for each hotspot of the shot; element 0 exists from the start, hidden.
+  std::vector<QLabel*> Highlight;
 
   Timer ElapsedTime{"elapsed time"};
   Timer GameClock{"game clock"};
@@ -94,6 +96,11 @@ class ShotView : public QWidget, public GameView {
   // DisplayView's place on the screen, which the small windows centre themselves over.
   QRect pictureOnScreen() const override;
   void setGameClockRunning(bool running) override;
+  void modeDebug() override;
+  void EditOff() override;
+  void SetHighlights() override;
+  void UnSetHighlights() override;
+  void setHighlightCaption(i16 index, const QString& caption) override;
   // The play-time tick, once a second. Every minute counted is also written to the player's row.
   void ElapsedTime_Timer();
   // The hover test, 13 times a second: lights the hotspot under the pointer and puts out the one it
@@ -135,6 +142,7 @@ class ShotView : public QWidget, public GameView {
   void MsgBlaster1_Message(int message, std::uint32_t param);
   void gameClockTick();
   void editDragStep(i16 x, i16 y);
+  QLabel* newHighlight();
   void btnLeft_Action();
   void btnRight_Action();
   void btnComputer_Action();

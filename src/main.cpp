@@ -3,11 +3,29 @@
 #include "platform/desktop/Application.h"
 #include "startup/Lending.h"
 #include "startup/Main.h"
+#include "startup/ProgramOptions.h"
 #include "startup/TerminationHandling.h"
 
+#include <QStringList>
 #include <QWidget>
 
+#include <cstdio>
+
 int main(int argc, char** argv) {
+  // The options are read before the application starts, so that --help needs no desktop.
+  QStringList words;
+  for (int i = 1; i < argc; ++i) words << QString::fromLocal8Bit(argv[i]);
+  const fh::ProgramOptions options = fh::readProgramOptions(words);
+  if (options.help) {
+    std::fputs(fh::kProgramUsage, stdout);
+    return 0;
+  }
+  if (!options.problem.isEmpty()) {
+    std::fprintf(stderr, "fernhollow: unknown option '%s'\n\n%s", options.problem.toLocal8Bit().constData(), fh::kProgramUsage);
+    return 2;
+  }
+  fh::AuthorMode = options.author;
+
   fh::Application app(argc, argv);
   fh::handleTerminationRequests();
   fh::LendWindows();

@@ -5,6 +5,7 @@
 #include "game/Screens.h"
 #include "mainview/ElapsedTimeText.h"
 #include "platform/base/Failure.h"
+#include "platform/base/Guard.h"
 #include "platform/base/Ui.h"
 #include "platform/desktop/CdPrompt.h"
 #include "platform/desktop/Fonts.h"
@@ -154,6 +155,9 @@ ShotView::ShotView() : MMControl1(MusicDevice()) {
   btnSetForm = editButton(this, QStringLiteral("btnSetForm"), QStringLiteral("S&et Edit"), {65, 25});
   btnShotEdit = editButton(this, QStringLiteral("btnShotEdit"), QStringLiteral("Sh&otEdit"), {65, 25});
   Save = editButton(this, QStringLiteral("Save"), QStringLiteral("&Save"), {57, 25});
+  connect(btnSetForm, &QPushButton::clicked, this, [this] { guarded("Set Edit", [this] { btnSetForm_Click(); }); });
+  connect(btnShotEdit, &QPushButton::clicked, this, [this] { guarded("Shot Edit", [this] { btnShotEdit_Click(); }); });
+  connect(Save, &QPushButton::clicked, this, [this] { guarded("Save", [this] { Save_Click(); }); });
 
   SpriteCels.resize(1);
   SpriteTimer.push_back(std::make_unique<Timer>("sprite timer"));

@@ -101,6 +101,15 @@ class ShotView : public QWidget, public GameView {
   void SetHighlights() override;
   void UnSetHighlights() override;
   void setHighlightCaption(i16 index, const QString& caption) override;
+  // Edit mode: a hotspot drawn with a right press at (x, y) on empty ground.
+  void AddHotSpot(i16 x, i16 y);
+  void btnSetForm_Click();
+  void btnShotEdit_Click();
+  void Save_Click();
+  // For authors: shows the three edit buttons, and lets F2 enter and leave edit mode. Without it
+  // nothing of edit mode can be reached.
+  void setAuthoring(bool authoring);
+  bool Authoring() const { return m_authoring; }
   // The play-time tick, once a second. Every minute counted is also written to the player's row.
   void ElapsedTime_Timer();
   // The hover test, 13 times a second: lights the hotspot under the pointer and puts out the one it
@@ -158,6 +167,10 @@ class ShotView : public QWidget, public GameView {
   i16 m_mouseY = 0;
   bool m_leftDown = false;
   bool m_rightDown = false;
+  // Where the pointer was at the last drag step of edit mode, or at the right press.
+  i16 m_lastMouseX = 0;
+  i16 m_lastMouseY = 0;
+  bool m_authoring = false;
   // Seconds of play counted since the play time was last written.
   int m_countedSeconds = 0;
 };

@@ -1,19 +1,30 @@
 #include "mainview/ShotView.h"
 
 #include "game/GameState.h"
+#include "game/Screens.h"
 #include "platform/base/Failure.h"
 #include "platform/desktop/Fonts.h"
+#include "platform/base/Ui.h"
 #include "platform/desktop/PictureBox.h"
+#include "world/SetFile.h"
+#include "world/cSet.h"
 #include "world/cHotSpot.h"
 #include "world/cShot.h"
 
 #include <QLabel>
+#include <QPushButton>
 
 #include <algorithm>
 
 // Edit mode: the main view as the world's authoring tool. The shot's plain backdrop stands in for
 // the picture, with each hotspot drawn on it as an outline that shows its name.
 namespace fh {
+
+namespace {
+
+constexpr i16 kMostHotSpotsDrawn = 19;
+
+}  // namespace
 
 QLabel* ShotView::newHighlight() {
   auto* label = new QLabel(QStringLiteral("HotSpot"), this);
@@ -73,6 +84,39 @@ void ShotView::setHighlightCaption(i16 index, const QString& caption) {
   if (index < 0 || index >= static_cast<int>(Highlight.size()))
     throw RuntimeFailure(Failure::SubscriptOutOfRange, QStringLiteral("Highlight(%1)").arg(index));
   Highlight[static_cast<std::size_t>(index)]->setText(caption);
+}
+
+// A new hotspot of 20 by 20 around the pointer, named for its place in the list. Drawn with the
+// mouse, a shot takes 19 at most.
+void ShotView::AddHotSpot(i16 x, i16 y) {
+  if (!CurrentShot) return;
+  if (CurrentShot->NumHotSpots == kMostHotSpotsDrawn) {
+    MsgBox(QStringLiteral("Maximum number of hotspots reached."), Buttons::Ok, QStringLiteral("Whoa there little fella!"));
+    return;
+  }
+  UnSetHighlights();
+  const std::shared_ptr<cShot> shot = RequireCurrentSet().Shot(RequireCurrentSet().nCurrentShot);
+  CurrentHotSpotIndex = shot->AddHotSpot(subI16(x, 2), subI16(y, 2), 20, 20);
+  shot->HotSpot(CurrentHotSpotIndex)->Name = QStringLiteral("HotSpot") + QString::number(CurrentHotSpotIndex + 1);
+  SetHighlights();
+}
+
+// What the three edit buttons do.
+void ShotView::btnSetForm_Click() {
+  // The set dialog can change the shots, so the mode is entered again on the shot it leaves shown.
+  const bool wasEditing = GameMode == 0;
+  if (wasEditing) EditOff();
+  ShowSetDialog();
+  if (wasEditing) modeDebug();
+}
+
+void ShotView::btnShotEdit_Click() { ShowShotDialog(); }
+
+void ShotView::Save_Click() { SaveSet(); }
+
+void ShotView::setAuthoring(bool authoring) {
+  m_authoring = authoring;
+  for (QPushButton* button : {btnSetForm, btnShotEdit, Save}) button->setVisible(authoring);
 }
 
 }  // namespace fh

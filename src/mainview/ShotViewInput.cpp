@@ -12,6 +12,7 @@
 #include "world/cShot.h"
 
 #include <QKeyEvent>
+#include <QLabel>
 
 #include <exception>
 #include <functional>
@@ -85,11 +86,21 @@ void ShotView::handleMouseUnguarded(int message, i16 x, i16 y) {
       m_leftDown = false;
       return;
     case message::kLeftDoubleClick:
-      // Not yet: in edit mode a double click opens the hotspot's dialog; in play it does nothing.
+      // In edit mode a double click opens the dialog of the hotspot under it; in play it does nothing.
+      if (GameMode == 1) return;
+      CurrentHotSpotIndex = RequireCurrentSet().CheckHotSpots(x, y);
+      if (CurrentHotSpotIndex != -1) ShowHotSpotDialog();
       return;
     case message::kRightDown:
-      // Not yet: in edit mode a right press draws a new hotspot or takes one up for sizing.
-      if (GameMode == 1) m_rightDown = true;
+      // In edit mode a right press on a hotspot takes it up for sizing, one on empty ground draws a
+      // new one there, and the right drag that follows gives it its size.
+      if (GameMode == 0) {
+        CurrentHotSpotIndex = RequireCurrentSet().CheckHotSpots(x, y);
+        if (CurrentHotSpotIndex == -1) AddHotSpot(x, y);
+        m_lastMouseX = x;
+        m_lastMouseY = y;
+      }
+      m_rightDown = true;
       return;
     case message::kRightUp:
       // A right release with the left button down is ignored, so RightDown outlasts it. Edit mode's
@@ -128,12 +139,39 @@ void ShotView::gameClockTick() {
   if (GameMode == 0 && CurrentHotSpotIndex != -1) editDragStep(x, y);
 }
 
-// Not yet: in edit mode the tick moves the lit hotspot with a left drag and sizes it with a right one.
-void ShotView::editDragStep(i16, i16) {}
+// In edit mode the tick moves the lit hotspot with a left drag and sizes it with a right one, both
+// when both buttons are down. In the move the hotspot leads and its outline follows; in the sizing
+// the outline leads and the hotspot takes its size. The tick's hit test comes first, so a drag
+// faster than the tick can follow loses the hotspot.
+void ShotView::editDragStep(i16 x, i16 y) {
+  cHotSpot& hotspot = *hotSpotOfCurrentShot(CurrentHotSpotIndex);
+  QLabel& outline = *Highlight.at(static_cast<std::size_t>(CurrentHotSpotIndex));
+  if (m_leftDown) {
+    hotspot.Left = addI16(hotspot.Left, subI16(x, m_lastMouseX));
+    hotspot.Top = addI16(hotspot.Top, subI16(y, m_lastMouseY));
+    outline.move(DisplayView->x() + hotspot.Left, DisplayView->y() + hotspot.Top);
+  }
+  if (m_rightDown) {
+    const int width = outline.width() + (x - m_lastMouseX);
+    const int height = outline.height() + (y - m_lastMouseY);
+    // An outline pulled past its own corner is no size at all: the tick fails, and the rectangle
+    // stays as it was until a new press takes it up.
+    if (width < 0 || height < 0) throw RuntimeFailure(Failure::InvalidPropertyValue, QStringLiteral("Highlight(%1) size").arg(CurrentHotSpotIndex));
+    outline.resize(width, height);
+    hotspot.Width = toI16(outline.width());
+    hotspot.Height = toI16(outline.height());
+  }
+  m_lastMouseX = x;
+  m_lastMouseY = y;
+}
 
 // The character code is compared with "s" or "S", which is "s": a capital S does nothing, and the
-// setup has always opened that way.
+// setup has always opened that way. For authors, F2 enters edit mode and leaves it again.
 void ShotView::keyPressEvent(QKeyEvent* event) {
+  if (event->key() == Qt::Key_F2 && m_authoring) {
+    guarded("edit mode", [this] { GameMode == 1 ? modeDebug() : EditOff(); });
+    return;
+  }
   const QString text = event->text();
   if (text.isEmpty() || text.at(0).unicode() != (u's' | u'S')) return;
   guarded("key press", [] { ShowSetup(); });

@@ -9,6 +9,7 @@
 #include "screens/SelectMusic.h"
 #include "script/Interpreter.h"
 #include "sound/cSoundMgr.h"
+#include "startup/ProgramOptions.h"
 #include "startup/Splash.h"
 #include "startup/frmLogin.h"
 #include "world/Dialogs.h"
@@ -64,6 +65,7 @@ void StartGame() {
 
   // The first use of the main view creates and loads it.
   ShotView& view = TheShotView();
+  view.setAuthoring(AuthorMode);
   view.SetCursor(103);
   // The shot's friendly name takes the line's place as soon as LoadSet shows the shot, so the
   // welcome is seen only while the set loads.

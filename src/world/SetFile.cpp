@@ -1,6 +1,7 @@
 #include "world/SetFile.h"
 
 #include "game/GameState.h"
+#include "game/View.h"
 #include "platform/base/Failure.h"
 #include "platform/data/Database.h"
 #include "platform/files/ByteFile.h"
@@ -12,8 +13,10 @@ namespace fh {
 
 void LoadSet(const QString& fileName) {
   if (fileName.isEmpty()) return;
-  // Not yet: in edit mode (GameMode 0) the main view leaves it through EditOff for the time of the
-  // load, and enters it again through modeDebug at the end.
+  // In edit mode the main view leaves it for the time of the load, and enters it again on the
+  // shot the new set shows.
+  const bool editing = GameMode == 0;
+  if (editing) view().EditOff();
   if (CurrentShot) CurrentSet.reset();  // the old set ends before the new one begins
   CurrentSet = std::make_shared<cSet>();
   ByteFile file = ByteFile::openForReading(DatabasePath + fileName);
@@ -22,6 +25,7 @@ void LoadSet(const QString& fileName) {
   file.close();
   // The user's record decides which shot is shown, never the nCurrentShot of the file.
   CurrentSet->ShowShot(CurrentShotIndex);
+  if (editing) view().modeDebug();
 }
 
 // Every saved shot has its row in table Shots; a new row gets only its Name, so its friendly name

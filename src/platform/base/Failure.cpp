@@ -17,6 +17,7 @@ QString failureText(Failure kind) {
     case Failure::ObjectNotSet: return QStringLiteral("Object variable not set");
     case Failure::InvalidUseOfNull: return QStringLiteral("Invalid use of Null");
     case Failure::InvalidFileFormat: return QStringLiteral("Invalid file format");
+    case Failure::InvalidPropertyValue: return QStringLiteral("Invalid property value");
     case Failure::InvalidPicture: return QStringLiteral("Invalid picture");
     case Failure::PrinterError: return QStringLiteral("Printer error");
     case Failure::UpdateWithoutEdit: return QStringLiteral("Update or CancelUpdate without AddNew or Edit");

@@ -22,6 +22,7 @@ enum class Failure : int {
   ObjectNotSet = 91,
   InvalidUseOfNull = 94,
   InvalidFileFormat = 321,
+  InvalidPropertyValue = 380,
   InvalidPicture = 481,
   PrinterError = 482,
   UpdateWithoutEdit = 3020,

@@ -4,6 +4,7 @@
 #include "platform/desktop/PictureBox.h"
 
 #include <QCoreApplication>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QMouseEvent>
 #include <QPushButton>
@@ -105,6 +106,14 @@ TEST_F(WindowMessages, ALabelAddedLaterJoinsTheSurfaceWhenShown) {
   send(later, QEvent::MouseButtonPress, {1, 2}, Qt::LeftButton);
   const std::vector<std::pair<int, std::uint32_t>> expected{{513, at(21, 22)}};
   EXPECT_EQ(seen, expected);
+}
+
+// A key goes to the focus and, let pass by a label, on to the window: one report, not two.
+TEST_F(WindowMessages, AKeyIsReportedOnceWhereverOnTheSurfaceTheFocusIs) {
+  label->setFocus();
+  QKeyEvent press(QEvent::KeyPress, Qt::Key_A, Qt::NoModifier, QStringLiteral("a"));
+  QCoreApplication::sendEvent(label, &press);
+  EXPECT_EQ(seen, (std::vector<std::pair<int, std::uint32_t>>{{256, 0u}}));
 }
 
 TEST(MessageParam, HoldsYHighAndXLowAndKeepsAHeldPointerAtTheEdge) {

@@ -80,6 +80,9 @@ bool MessageHook::eventFilter(QObject* watched, QEvent* event) {
   }
   const int number = messageOf(*event);
   if (number == 0 || !onMessage || !m_window) return false;
+  // A key goes to the focus first and on to the window when the focus lets it pass, as an image or
+  // a label always does: it is reported at the window, once, whichever part of it has the focus.
+  if (number < message::kMouseMove && watched != m_window) return false;
   std::uint32_t param = 0;
   if (number >= message::kMouseMove) {
     auto* widget = static_cast<QWidget*>(watched);

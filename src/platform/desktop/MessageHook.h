@@ -29,7 +29,8 @@ constexpr int kMiddleDoubleClick = 521;
 // Reports the messages that a window itself receives from the player: mouse moves, buttons and
 // keys over the window's own surface. That surface is the window and its children without a window
 // of their own, the images and labels (QLabel, ImagePair); a child of any other kind, like the main
-// view's picture box, is a window of its own and takes its messages for itself. A mouse message's
+// view's picture box, is a window of its own and takes its messages for itself. Keys are reported
+// with the parameter 0. A mouse message's
 // parameter holds the position in the window as two 16-bit halves, Y in the high one.
 class MessageHook : public QObject {
  public:

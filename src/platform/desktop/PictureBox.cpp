@@ -33,7 +33,7 @@ void PictureBox::PaintPicture(const QPixmap& picture, int x, int y) {
 
 void PictureBox::setMousePointer(int number) {
   m_mousePointer = number;
-  setCursor(standardPointer(number));
+  setCursor(mousePointer(number));
 }
 
 void PictureBox::paintEvent(QPaintEvent* event) {
@@ -73,6 +73,11 @@ Qt::CursorShape standardPointer(int number) {
     case 15: return Qt::SizeAllCursor;
     default: return Qt::ArrowCursor;  // 0, 99 and the numbers the platform has no pointer for
   }
+}
+
+QCursor mousePointer(int number, const QPixmap& icon) {
+  if (number == 99 && !icon.isNull()) return QCursor(icon);
+  return standardPointer(number);
 }
 
 }  // namespace fh

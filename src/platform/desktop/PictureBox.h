@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCursor>
 #include <QPixmap>
 #include <QWidget>
 
@@ -44,5 +45,8 @@ class PictureBox : public QWidget {
 
 // The platform's pointer for one of its standard pointer numbers.
 Qt::CursorShape standardPointer(int number);
+// The pointer for a pointer number: 99 is the custom pointer, whose picture is `icon`; without an
+// icon it is the default arrow, as is any number the platform doesn't know.
+QCursor mousePointer(int number, const QPixmap& icon = {});
 
 }  // namespace fh

@@ -1,5 +1,6 @@
 #include "startup/Lending.h"
 
+#include "authoring/LendAuthoring.h"
 #include "computer/ComputerScreens.h"
 #include "game/Screens.h"
 #include "platform/base/Ui.h"
@@ -12,6 +13,7 @@ namespace fh {
 void LendWindows() {
   LendChoiceScreens();
   LendComputerScreens();
+  LendAuthoringDialogs();
   screens().setup = [] { ui().showModal(setupForm()); };
   screens().endGame = [] { EndGame(); };
 }

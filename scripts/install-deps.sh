@@ -10,8 +10,8 @@ packages=(
   qt6-base-dev qt6-base-dev-tools qt6-svg-dev libqt6sql6-sqlite
   # sound: SDL2 with its mixer (MIDI through FluidSynth) and a General MIDI soundfont
   libsdl2-dev libsdl2-mixer-dev fluid-soundfont-gm
-  # fonts metric-compatible with Arial
-  fonts-liberation2
+  # fonts metric-compatible with Arial (and Times New Roman); Bookman for a caption of the hotspot dialog
+  fonts-liberation2 fonts-urw-base35
   # tests
   libgtest-dev googletest
   # listening to the music in the tests: rendering MIDI and measuring the sound

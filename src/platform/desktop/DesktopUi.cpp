@@ -39,6 +39,10 @@ Answer DesktopUi::messageBox(const QString& text, Buttons buttons, const QString
   // Messages carry names and texts of the world: markup in them is shown, not obeyed.
   box.setTextFormat(Qt::PlainText);
   if (!details.isEmpty()) box.setDetailedText(details);
+  // Without a window manager nobody else gives the box the keyboard, and Enter would go elsewhere.
+  box.show();
+  box.raise();
+  box.activateWindow();
   return box.exec() == QMessageBox::Cancel ? Answer::Cancel : Answer::Ok;
 }
 

@@ -22,6 +22,9 @@ MediaDevice& SoundControls::MMControl1(int index) {
 }
 
 void SoundControls::PlaySound(i16 index) {
+  // The Done handler plays a looped sound that holds the channel again each time it ends; the device
+  // itself carries it over that end, so that the repeat is seamless.
+  MMControl1(index).Looping = SoundMgr().IsLooped(index);
   if (CurrentSound == -1) {
     MMControl1(index).Command(QStringLiteral("play"));
     CurrentSound = index;

@@ -88,3 +88,34 @@ TEST_F(SoundChannel, TheFirstPlayStopsDeviceZero) {
   EXPECT_EQ(device(kHum).Mode(), kModeStopped);
   EXPECT_EQ(device(kBeep).Mode(), kModePlaying);
 }
+
+namespace {
+
+// The disk driver writes a 1024-frame buffer every 5 ms instead of every 23: twenty seconds of sound
+// take under five.
+class SoundLoop : public SoundFixture {
+ protected:
+  QString m_output = m_folder.at(QStringLiteral("loop.raw"));
+  ScopedEnvironment m_disk{"SDL_AUDIODRIVER", "disk"};
+  ScopedEnvironment m_file{"SDL_DISKAUDIOFILE", m_output.toLocal8Bit()};
+  ScopedEnvironment m_pace{"SDL_DISKAUDIODELAY", "5"};
+};
+
+}  // namespace
+
+// Each end of a looped sound is still told to the game, but the sound itself never pauses.
+TEST_F(SoundLoop, ALoopedSoundRunsOnWithoutAGapForTwentySeconds) {
+  load(QStringLiteral("tone.wav"), QStringLiteral("Tone"), 300);
+  soundControls().CurrentSound = -1;
+  int ends = 0;
+  QObject::connect(&device(0), &MediaDevice::Done, [&] { ++ends; });
+  const double before = secondsOfRawAudio(m_output);
+  SoundMgr().PlayLocal(QStringLiteral("Tone"), 0, true);
+  ASSERT_TRUE(waitUntil([&] { return secondsOfRawAudio(m_output) > before + 20; }, 15000));
+  EXPECT_EQ(device(0).Mode(), kModePlaying);
+  SoundMgr().StopLocal(QStringLiteral("Tone"));
+  CloseAudioOutput();
+
+  EXPECT_LT(longestSilenceInside(m_output), 2.0);
+  EXPECT_GE(ends, 60);
+}

@@ -3,11 +3,15 @@
 #include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QFileInfo>
 #include <QThread>
 
+#include <algorithm>
 #include <cmath>
+#include <cstdlib>
 #include <cstring>
 #include <numbers>
+#include <vector>
 
 namespace fh::test {
 
@@ -15,6 +19,15 @@ namespace {
 
 void put(QByteArray& out, std::uint32_t value, int bytes, bool bigEndian = false) {
   for (int i = 0; i < bytes; ++i) out.append(static_cast<char>(value >> (8 * (bigEndian ? bytes - 1 - i : i))));
+}
+
+std::vector<std::int16_t> rawSamples(const QString& path) {
+  QFile file(path);
+  if (!file.open(QIODevice::ReadOnly)) return {};
+  const QByteArray data = file.readAll();
+  std::vector<std::int16_t> samples(static_cast<std::size_t>(data.size() / 2));
+  std::memcpy(samples.data(), data.constData(), samples.size() * 2);
+  return samples;
 }
 
 }  // namespace
@@ -61,17 +74,32 @@ bool waitUntil(const std::function<bool()>& condition, int timeoutMilliseconds) 
 }
 
 double rmsOfRawAudio(const QString& path) {
-  QFile file(path);
-  if (!file.open(QIODevice::ReadOnly)) return 0;
-  const QByteArray data = file.readAll();
-  const qsizetype count = data.size() / 2;
+  const std::vector<std::int16_t> samples = rawSamples(path);
   double sum = 0;
-  for (qsizetype i = 0; i < count; ++i) {
-    std::int16_t sample = 0;
-    std::memcpy(&sample, data.constData() + 2 * i, 2);
-    sum += double(sample) * sample;
-  }
-  return count == 0 ? 0 : std::sqrt(sum / double(count));
+  for (const std::int16_t sample : samples) sum += double(sample) * sample;
+  return samples.empty() ? 0 : std::sqrt(sum / double(samples.size()));
 }
+
+double longestSilenceInside(const QString& path) {
+  const std::vector<std::int16_t> samples = rawSamples(path);
+  // A frame is silent when both sides are within a hair of zero; a tone passes zero for a frame.
+  constexpr int kHair = 4;
+  std::size_t longest = 0;
+  std::size_t run = 0;
+  bool heardAny = false;
+  for (std::size_t left = 0; left + 1 < samples.size(); left += 2) {
+    if (std::abs(samples[left]) <= kHair && std::abs(samples[left + 1]) <= kHair) {
+      ++run;
+      continue;
+    }
+    // Silence before the first sound doesn't count, nor does silence after the last.
+    if (heardAny) longest = std::max(longest, run);
+    heardAny = true;
+    run = 0;
+  }
+  return double(longest) * 1000.0 / 44100.0;
+}
+
+double secondsOfRawAudio(const QString& path) { return double(QFileInfo(path).size()) / (44100.0 * 4); }
 
 }  // namespace fh::test

@@ -17,6 +17,11 @@ inline void runEventsFor(int milliseconds) { waitUntil([] { return false; }, mil
 
 // Root mean square of the 16-bit samples that SDL's disk driver wrote; 0 for silence.
 double rmsOfRawAudio(const QString& path);
+// The longest run of silence, in milliseconds, between the first and the last sound that SDL's disk
+// driver wrote at 44100 Hz stereo: 0 when the sound never pauses.
+double longestSilenceInside(const QString& path);
+// How much sound the disk driver wrote.
+double secondsOfRawAudio(const QString& path);
 
 // Sets an environment variable for the lifetime of the object.
 class ScopedEnvironment {

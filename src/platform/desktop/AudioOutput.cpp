@@ -24,7 +24,9 @@ constexpr const char* kSoundFont = "/usr/share/sounds/sf2/FluidR3_GM.sf2";
 // Shared with the audio thread. Each channel's play number is written before its play starts, and
 // its byte count grows while the mixer takes the chunk's samples.
 std::array<std::atomic<unsigned>, kChannelCount> channelPlayNumber{};
-std::array<std::atomic<std::uint32_t>, kChannelCount> channelMixedBytes{};
+std::array<std::atomic<std::uint64_t>, kChannelCount> channelMixedBytes{};
+// The length of a looping channel's chunk, so that the audio thread sees each pass end; 0 otherwise.
+std::array<std::atomic<std::uint32_t>, kChannelCount> channelLoopBytes{};
 std::atomic<unsigned> musicPlayNumber{0};
 // While the output closes, its ends are nobody's business.
 std::atomic<bool> closing{false};
@@ -103,18 +105,19 @@ void AudioOutput::releaseChannel(int channel) {
   m_channelOwners[channel] = nullptr;
 }
 
-unsigned AudioOutput::playChannel(int channel, Mix_Chunk& chunk) {
+unsigned AudioOutput::playChannel(int channel, Mix_Chunk& chunk, bool looping) {
   const unsigned number = nextPlayNumber();
   channelPlayNumber[channel] = number;
   channelMixedBytes[channel] = 0;
+  channelLoopBytes[channel] = looping ? chunk.alen : 0;
   // The mixer drops a channel's effects when its play ends; the counter goes on again each time.
   Mix_UnregisterAllEffects(channel);
   Mix_RegisterEffect(channel, &AudioOutput::countMixedBytes, nullptr, nullptr);
-  if (Mix_PlayChannel(channel, &chunk, 0) < 0) throw RuntimeFailure(Failure::DeviceUnavailable, sdlError());
+  if (Mix_PlayChannel(channel, &chunk, looping ? -1 : 0) < 0) throw RuntimeFailure(Failure::DeviceUnavailable, sdlError());
   return number;
 }
 
-std::uint32_t AudioOutput::haltChannel(int channel) {
+std::uint64_t AudioOutput::haltChannel(int channel) {
   Mix_HaltChannel(channel);
   return channelMixedBytes[channel];
 }
@@ -176,8 +179,16 @@ void AudioOutput::onMusicFinished() {
   postToEventLoop([number] { instance().musicEnded(number); });
 }
 
+// On the audio thread, for each piece of the chunk that the mixer takes; a looping chunk's pieces run
+// across its end, and the mixer doesn't tell of such an end itself.
 void AudioOutput::countMixedBytes(int channel, void*, int length, void*) {
-  if (channel >= 0 && channel < kChannelCount && length > 0) channelMixedBytes[channel] += static_cast<std::uint32_t>(length);
+  if (channel < 0 || channel >= kChannelCount || length <= 0) return;
+  const std::uint64_t before = channelMixedBytes[channel].fetch_add(static_cast<std::uint64_t>(length));
+  const std::uint32_t loopBytes = channelLoopBytes[channel];
+  if (loopBytes == 0 || closing) return;
+  if ((before + static_cast<std::uint64_t>(length)) / loopBytes == before / loopBytes) return;
+  const unsigned number = channelPlayNumber[channel];
+  postToEventLoop([channel, number] { instance().channelEnded(channel, number); });
 }
 
 void CloseAudioOutput() { AudioOutput::instance().close(); }

@@ -30,11 +30,12 @@ class AudioOutput {
   int claimChannel(MediaDevice& owner);
   void releaseChannel(int channel);
 
-  // Plays the chunk once on the channel and returns the play's number; its end comes to the owner's
-  // playEnded with that number.
-  unsigned playChannel(int channel, Mix_Chunk& chunk);
+  // Plays the chunk on the channel and returns the play's number; its end comes to the owner's
+  // playEnded with that number. A looping chunk starts again at once each time it ends, without a
+  // gap, and each of its ends is told as well.
+  unsigned playChannel(int channel, Mix_Chunk& chunk, bool looping);
   // Halts the channel and tells how many bytes of the chunk had been mixed by then.
-  std::uint32_t haltChannel(int channel);
+  std::uint64_t haltChannel(int channel);
 
   // One piece of music plays at a time; a device that starts one takes the music from the last.
   unsigned playMusic(MediaDevice& owner, _Mix_Music& music);

@@ -23,7 +23,8 @@ QString sdlError() { return QString::fromUtf8(SDL_GetError()); }
 }  // namespace
 
 // What an open device holds. A wave device keeps its whole sound and plays a second chunk that
-// starts at the position and shares the samples; a sequencer keeps its piece and where it stands.
+// starts at the position and shares the samples, or, looping from the start, the sound itself; a
+// sequencer keeps its piece and where it stands.
 struct MediaDevice::Loaded {
   enum class MusicAt { Start, Paused, End };
 
@@ -33,6 +34,8 @@ struct MediaDevice::Loaded {
   int channel = -1;
   std::uint32_t position = 0;   // bytes into the sound
   std::uint32_t restStart = 0;  // where the playing rest began
+  bool looping = false;         // the sound plays round and round on its channel
+  bool passRunsOn = false;      // a pass has ended, the next one sounds, and nobody has taken it up
   std::uint32_t frameBytes = 4;
   int bytesPerSecond = 44100 * 4;
   Mix_Music* music = nullptr;
@@ -123,11 +126,24 @@ void MediaDevice::play() {
 
   // A play from the end has nothing to play and is over at once.
   if (loaded.position >= loaded.sound->alen) return reportDone(kNotifySuccessful);
+  if (loaded.passRunsOn) {
+    // The Done handler's "prev" and "play": the pass that already sounds is this play.
+    loaded.passRunsOn = false;
+    m_mode = kModePlaying;
+    return;
+  }
   loaded.freeRest();
+  loaded.looping = Looping && loaded.position == 0;
+  if (loaded.looping) {
+    loaded.restStart = 0;
+    loaded.playNumber = output.playChannel(loaded.channel, *loaded.sound, true);
+    m_mode = kModePlaying;
+    return;
+  }
   loaded.rest = Mix_QuickLoad_RAW(loaded.sound->abuf + loaded.position, loaded.sound->alen - loaded.position);
   if (loaded.rest == nullptr) throw RuntimeFailure(Failure::DeviceUnavailable, sdlError());
   loaded.restStart = loaded.position;
-  loaded.playNumber = output.playChannel(loaded.channel, *loaded.rest);
+  loaded.playNumber = output.playChannel(loaded.channel, *loaded.rest, false);
   m_mode = kModePlaying;
 }
 
@@ -176,9 +192,10 @@ void MediaDevice::close() {
 void MediaDevice::haltWave(bool keepPosition) {
   Loaded& loaded = *m_loaded;
   if (m_mode == kModePlaying) {
-    const std::uint32_t mixed = AudioOutput::instance().haltChannel(loaded.channel);
+    const std::uint64_t mixed = AudioOutput::instance().haltChannel(loaded.channel);
     if (keepPosition) {
-      const std::uint32_t reached = std::min(loaded.restStart + mixed, loaded.sound->alen);
+      const std::uint64_t end = loaded.sound->alen;
+      const auto reached = static_cast<std::uint32_t>(loaded.looping ? mixed % end : std::min(loaded.restStart + mixed, end));
       loaded.position = reached - reached % loaded.frameBytes;
     }
   }
@@ -193,8 +210,16 @@ void MediaDevice::playEnded(unsigned playNumber) {
     m_loaded->freeRest();
     m_loaded->position = m_loaded->sound->alen;
   }
+  // A looping sound's next pass is already sounding; the device stands at the end all the same.
+  m_loaded->passRunsOn = m_loaded->looping;
   m_mode = kModeStopped;
-  reportDone(kNotifySuccessful);
+  reportDone(kNotifySuccessful, m_loaded->passRunsOn);
+}
+
+void MediaDevice::endUnclaimedPass() {
+  if (!m_loaded || !m_loaded->passRunsOn) return;
+  AudioOutput::instance().haltChannel(m_loaded->channel);
+  m_loaded->passRunsOn = false;
 }
 
 // Another device started a piece: this one's is gone, and its next play starts from the top.
@@ -206,10 +231,19 @@ void MediaDevice::musicTakenAway() {
   if (wasPlaying) reportDone(kNotifyAborted);
 }
 
-void MediaDevice::reportDone(int notifyCode) {
-  if (!Notify) return;
+void MediaDevice::reportDone(int notifyCode, bool endsPass) {
+  if (!Notify) {
+    if (endsPass) endUnclaimedPass();
+    return;
+  }
   const int index = m_index;
-  QMetaObject::invokeMethod(this, [this, index, notifyCode] { emit Done(index, notifyCode); }, Qt::QueuedConnection);
+  QMetaObject::invokeMethod(
+      this,
+      [this, index, notifyCode, endsPass] {
+        emit Done(index, notifyCode);
+        if (endsPass) endUnclaimedPass();
+      },
+      Qt::QueuedConnection);
 }
 
 }  // namespace fh

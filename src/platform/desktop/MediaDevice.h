@@ -29,6 +29,12 @@ inline constexpr int kNotifyAborted = 4;
 // comes later from the event loop, never inside the command that caused it. Commands return at once:
 // Wait and Shareable are kept for the game that sets them and change nothing here.
 //
+// Looping tells a wave device that the game plays its sound again from the start each time it ends.
+// Going through the event loop for that would leave a gap of a buffer or more, a click at every
+// repeat; so such a device runs on into the next pass itself, within the same audio buffer, and still
+// reports Done at each end. A "prev" and "play" in answer to that Done take up the pass that already
+// runs; when the Done has been handled without them, the device falls silent.
+//
 // "stop", "prev" and "close" on a device that isn't open do nothing. A command that can't be carried
 // out throws a RuntimeFailure: an unknown word, a file that isn't there or can't be played, a device
 // type other than the two, "play" on a closed device, no audio output.
@@ -43,6 +49,7 @@ class MediaDevice : public QObject {
   bool Notify = false;
   bool Wait = false;
   bool Shareable = false;
+  bool Looping = false;
 
   void Command(const QString& word);
   int Mode() const { return m_mode; }
@@ -71,7 +78,8 @@ class MediaDevice : public QObject {
   void release() { close(); }
 
   void haltWave(bool keepPosition);
-  void reportDone(int notifyCode);
+  void reportDone(int notifyCode, bool endsPass = false);
+  void endUnclaimedPass();
   int milliseconds(unsigned bytes) const;
 
   int m_index;

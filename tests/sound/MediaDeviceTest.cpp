@@ -143,6 +143,21 @@ TEST_F(MediaDeviceTest, APlayedWaveIsHeard) {
   }), 1000.0);
 }
 
+// The game didn't answer the end with "prev" and "play": the pass that ran on falls silent.
+TEST_F(MediaDeviceTest, ALoopingWaveNobodyPlaysAgainSoundsOnce) {
+  const QString output = m_folder.at(QStringLiteral("output.raw"));
+  ScopedEnvironment disk("SDL_AUDIODRIVER", "disk");
+  ScopedEnvironment file("SDL_DISKAUDIOFILE", output.toLocal8Bit());
+  MediaDevice& tone = openTone(200);
+  tone.Looping = true;
+  tone.Command(QStringLiteral("play"));
+  ASSERT_TRUE(waitUntil([&] { return !m_reports.empty(); }));
+  EXPECT_EQ(tone.Position(), tone.Length());
+  runEventsFor(400);
+  CloseAudioOutput();
+  EXPECT_NEAR(secondsHeard(output), 0.2, 0.05);
+}
+
 TEST_F(MediaDeviceTest, ASequencerPlaysMidiThroughTheSoundFontToItsEnd) {
   EXPECT_GT(heard([this] {
     m_device.DeviceType = QStringLiteral("Sequencer");

@@ -80,15 +80,23 @@ double rmsOfRawAudio(const QString& path) {
   return samples.empty() ? 0 : std::sqrt(sum / double(samples.size()));
 }
 
+namespace {
+
+// A frame is silent when both sides are within a hair of zero; a tone passes zero for a frame.
+bool silentFrame(const std::vector<std::int16_t>& samples, std::size_t left) {
+  constexpr int kHair = 4;
+  return std::abs(samples[left]) <= kHair && std::abs(samples[left + 1]) <= kHair;
+}
+
+}  // namespace
+
 double longestSilenceInside(const QString& path) {
   const std::vector<std::int16_t> samples = rawSamples(path);
-  // A frame is silent when both sides are within a hair of zero; a tone passes zero for a frame.
-  constexpr int kHair = 4;
   std::size_t longest = 0;
   std::size_t run = 0;
   bool heardAny = false;
   for (std::size_t left = 0; left + 1 < samples.size(); left += 2) {
-    if (std::abs(samples[left]) <= kHair && std::abs(samples[left + 1]) <= kHair) {
+    if (silentFrame(samples, left)) {
       ++run;
       continue;
     }
@@ -101,5 +109,12 @@ double longestSilenceInside(const QString& path) {
 }
 
 double secondsOfRawAudio(const QString& path) { return double(QFileInfo(path).size()) / (44100.0 * 4); }
+
+double secondsHeard(const QString& path) {
+  const std::vector<std::int16_t> samples = rawSamples(path);
+  std::size_t frames = 0;
+  for (std::size_t left = 0; left + 1 < samples.size(); left += 2) frames += silentFrame(samples, left) ? 0 : 1;
+  return double(frames) / 44100.0;
+}
 
 }  // namespace fh::test

@@ -20,8 +20,9 @@ double rmsOfRawAudio(const QString& path);
 // The longest run of silence, in milliseconds, between the first and the last sound that SDL's disk
 // driver wrote at 44100 Hz stereo: 0 when the sound never pauses.
 double longestSilenceInside(const QString& path);
-// How much sound the disk driver wrote.
+// How much the disk driver wrote, and how much of that wasn't silence.
 double secondsOfRawAudio(const QString& path);
+double secondsHeard(const QString& path);
 
 // Sets an environment variable for the lifetime of the object.
 class ScopedEnvironment {

@@ -75,7 +75,7 @@ INSERT INTO SpriteCelSources (ID, Sprite, Position, Condition, CelSource, Sound)
     (15, 'ToiletRipple', 1, 'toiletleak state 1', 'ToiletRipple.bmp', 'Trickle'),
     (16, 'ShowerDripping', 1, 'showerdrip state 1', 'ShowerDrip.bmp', 'Drip'),
     (17, 'ShowerSpray', 1, 'showerhead holds watersenseshowerhead1.5gallons', 'ShowerFine.bmp', 'Shower'),
-    (18, 'ShowerSpray', 2, 'showerhead !holds watersenseshowerhead1.5gallons', 'ShowerGush.bmp', 'Shower');
+    (18, 'ShowerSpray', 2, 'showerhead holds oldshowerhead5gallonsaminute', 'ShowerGush.bmp', 'Shower');
 
 
 -- Upstairs: what is fitted and what is switched on ------------------------------------------
@@ -83,6 +83,7 @@ INSERT INTO SpriteCelSources (ID, Sprite, Position, Condition, CelSource, Sound)
 -- shows the player's choice at once: the toilet's tank, the basin tap and the shower head by the
 -- object chosen, and the red stand-by lights of the TV, the console and the power strip while
 -- the strip is on. Each cel repeats the backdrop around the fixture, pixel for pixel.
+-- ShowerSpray gets a third look here: the even spray of the standard and 2.0-gallon heads.
 
 INSERT INTO Sprites (Name, Shot, X, Y, NumFrames, FrameDelay, Loop, Backwards, DrawOrder) VALUES
     ('StandbyLights', 'Bedroom', 404, 236, 1, 1000, 0, 0, 3),
@@ -104,4 +105,5 @@ INSERT INTO SpriteCelSources (ID, Sprite, Position, Condition, CelSource, Sound)
     (109, 'FittedShowerHead', 1, 'showerhead holds oldshowerhead5gallonsaminute', 'ShowerHeadOld.bmp', NULL),
     (110, 'FittedShowerHead', 2, 'showerhead holds standardshowerhead2.5gallons', 'ShowerHeadStandard.bmp', NULL),
     (111, 'FittedShowerHead', 3, 'showerhead holds watersenseshowerhead2.0gallons', 'ShowerHeadWaterSense20.bmp', NULL),
-    (112, 'FittedShowerHead', 4, 'showerhead holds watersenseshowerhead1.5gallons', 'ShowerHeadWaterSense15.bmp', NULL);
+    (112, 'FittedShowerHead', 4, 'showerhead holds watersenseshowerhead1.5gallons', 'ShowerHeadWaterSense15.bmp', NULL),
+    (113, 'ShowerSpray', 3, 'showerhead !holds watersenseshowerhead1.5gallons', 'ShowerEven.bmp', 'Shower');

@@ -75,4 +75,35 @@ INSERT INTO SpriteCelSources (ID, Sprite, Position, Condition, CelSource, Sound)
     (15, 'ToiletRipple', 1, 'toiletleak state 1', 'ToiletRipple.bmp', 'Trickle'),
     (16, 'ShowerDripping', 1, 'showerdrip state 1', 'ShowerDrip.bmp', 'Drip'),
     (17, 'ShowerSpray', 1, 'showerhead holds watersenseshowerhead1.5gallons', 'ShowerFine.bmp', 'Shower'),
-    (18, 'ShowerSpray', 2, 'showerhead !holds watersenseshowerhead1.5gallons', 'ShowerGush.bmp', 'Shower');
+    (18, 'ShowerSpray', 2, 'showerhead holds oldshowerhead5gallonsaminute', 'ShowerGush.bmp', 'Shower');
+
+
+-- Upstairs: what is fitted and what is switched on ------------------------------------------
+-- Still sprites of one cel, drawn over the backdrop where a fixture stands, so that the room
+-- shows the player's choice at once: the toilet's tank, the basin tap and the shower head by the
+-- object chosen, and the red stand-by lights of the TV, the console and the power strip while
+-- the strip is on. Each cel repeats the backdrop around the fixture, pixel for pixel.
+-- ShowerSpray gets a third look here: the even spray of the standard and 2.0-gallon heads.
+
+INSERT INTO Sprites (Name, Shot, X, Y, NumFrames, FrameDelay, Loop, Backwards, DrawOrder) VALUES
+    ('StandbyLights', 'Bedroom', 404, 236, 1, 1000, 0, 0, 3),
+    ('PowerStripLights', 'Bedroom', 360, 332, 1, 1000, 0, 0, 3),
+    ('FittedToilet', 'Bathroom', 56, 94, 1, 1000, 0, 0, 2),
+    ('FittedTap', 'Bathroom', 290, 124, 1, 1000, 0, 0, 2),
+    ('FittedShowerHead', 'Shower', 266, 66, 1, 1000, 0, 0, 3);
+
+INSERT INTO SpriteCelSources (ID, Sprite, Position, Condition, CelSource, Sound) VALUES
+    (100, 'StandbyLights', 1, 'gamesstandby state 1', 'StandbyLeds.bmp', NULL),
+    (101, 'PowerStripLights', 1, 'gamesstandby state 1', 'StandbyStrip.bmp', NULL),
+    (102, 'FittedToilet', 1, 'toilet holds oldtoilet5gallonsaflush', 'ToiletTankOld.bmp', NULL),
+    (103, 'FittedToilet', 2, 'toilet holds toilet3.5gallonsaflush', 'ToiletTank35.bmp', NULL),
+    (104, 'FittedToilet', 3, 'toilet holds standardtoilet1.6gallons', 'ToiletTankStandard.bmp', NULL),
+    (105, 'FittedToilet', 4, 'toilet holds watersensetoilet1.28gallons', 'ToiletTankWaterSense.bmp', NULL),
+    (106, 'FittedTap', 1, 'bathroomtap holds oldtapwithoutaerator', 'BathTapOld.bmp', NULL),
+    (107, 'FittedTap', 2, 'bathroomtap holds standardtap', 'BathTapStandard.bmp', NULL),
+    (108, 'FittedTap', 3, 'bathroomtap holds watersenseaerator', 'BathTapAerator.bmp', NULL),
+    (109, 'FittedShowerHead', 1, 'showerhead holds oldshowerhead5gallonsaminute', 'ShowerHeadOld.bmp', NULL),
+    (110, 'FittedShowerHead', 2, 'showerhead holds standardshowerhead2.5gallons', 'ShowerHeadStandard.bmp', NULL),
+    (111, 'FittedShowerHead', 3, 'showerhead holds watersenseshowerhead2.0gallons', 'ShowerHeadWaterSense20.bmp', NULL),
+    (112, 'FittedShowerHead', 4, 'showerhead holds watersenseshowerhead1.5gallons', 'ShowerHeadWaterSense15.bmp', NULL),
+    (113, 'ShowerSpray', 3, 'showerhead !holds watersenseshowerhead1.5gallons', 'ShowerEven.bmp', 'Shower');

@@ -68,7 +68,7 @@ INSERT INTO Dialogs (Name, Text) VALUES
 
     -- The Basement and the Water Heater
     ('BasementUpstairsHint', 'The stairs. Click to go back up to the laundry room.'),
-    ('WaterHeaterHint', 'The water heater makes all the hot water in the house. Click to take a closer look.'),
+    ('WaterHeaterHint', 'The water heater makes all the hot water in the house. Click for a closer look.'),
     ('FurnaceHint', 'The furnace heats the whole house, and the thermostat in the hall tells it when. Click for thermostat facts.'),
     ('HeaterLabelHint', 'The label on the water heater. Click to read how to heat water wisely.'),
     ('DialHint', 'The water heater''s temperature dial. Click to choose a setting.'),
@@ -99,7 +99,7 @@ INSERT INTO Dialogs (Name, Text) VALUES
     ('BathroomDoorHint', 'The bathroom door. Click to go in.'),
     ('ConsoleHint', 'The games console. Even on stand-by it uses power, day and night. Click for stand-by facts.'),
     ('PowerStripHint', 'The power strip. Its red lights mean the console and TV are on stand-by. Click to switch it all off.'),
-    ('StandbyOff', 'Stand-by off! With the strip switched off, the console, the TV and the chargers use no electricity at all.'),
+    ('StandbyOff', 'Stand-by off! With the strip switched off, the console, TV and chargers use no electricity at all.'),
     ('UseComputerHint', 'Your computer. Click to use it and see how you are doing.'),
     ('ManualHint', 'The computer''s manual. Click for computer energy tips.'),
     ('ComputerPowerHint', 'The computer''s power button. Click to switch it between on and sleep.'),

@@ -117,7 +117,7 @@ VALUES
     -- The Bathroom
     ('Toilet', 'Toilet', NULL, 'WaterSense toilet 1.28 gallons', 1, 'Old toilet 5 gallons a flush',
      'in use', 'not in use',
-     'Toilets use nearly 30% of the water in a home, more than anything else indoors. Compare the gallons each toilet uses for 5 flushes, about one person''s day. Newer toilets flush just as well with far less water. Which one uses the least?',
+     'Toilets use nearly 30% of the water used indoors in a home, more than anything else. Compare the gallons each toilet uses for 5 flushes, about one person''s day. Newer toilets flush just as well with far less water. Which one uses the least?',
      1, 220),
     ('ToiletLeak', 'Toilet flapper', 0, NULL, 1, NULL, 'leaking', 'fixed',
      'Hear that quiet trickle? A toilet that keeps running can waste up to 200 gallons a day, usually because a worn rubber flapper in the tank doesn''t seal. Try this at home: put a few drops of food coloring in the tank. If color shows in the bowl after 10 minutes without a flush, the toilet leaks.',
@@ -212,7 +212,7 @@ VALUES
      'Water (gallons)', 27, 'ObjHandWashingTapRunning.bmp'),
     ('Dishwashing', 'Older dishwasher', 2,
      'A dishwasher made many years ago. It uses about 10 gallons of water, most of it heated, to wash one load of dishes.',
-     'Less than washing under a running tap, but a new ENERGY STAR dishwasher uses about 6 gallons less a load.',
+     'Less than washing under a running tap, but a new ENERGY STAR dishwasher uses about 6.5 gallons less a load.',
      'Water (gallons)', 10, 'ObjOlderDishwasher.bmp'),
     ('Dishwashing', 'ENERGY STAR dishwasher full loads', 3,
      'A dishwasher with the ENERGY STAR label, started only when it is full. It washes a whole load of dishes with about 3.5 gallons of water.',

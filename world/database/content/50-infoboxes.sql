@@ -2,11 +2,12 @@
 -- with figures. Paragraphs are separated by CR LF.
 
 INSERT INTO InfoBoxes (Name, Title, Text) VALUES
-    ('AboutFernhollow', 'About Fernhollow',
-     'Welcome to Fernhollow! This house wastes water and energy in 28 places. Can you find and fix them all?' || char(13) || char(10) ||
-     'Walk around with the arrow buttons. Point at things, and click the ones you can change.' || char(13) || char(10) ||
-     'Your score starts at 100, and every wise change brings it down. The meter shows how wasteful the house still is. Get it down to 1!' || char(13) || char(10) ||
-     'The computer button shows your progress, the clean air calculator and the home checkup. The stereo button plays music.'),
+    ('AboutFernhollow', 'How to Play',
+     'This house wastes water and energy in 28 ways. Put them right!' || char(13) || char(10) ||
+     'Walk with the arrows or through doors. Point at things to learn; click to switch or fix them. A choice screen has arrows to look, Help, and OK to choose.' || char(13) || char(10) ||
+     'Wise changes take your score from 100 down to 1 and slow the meter.' || char(13) || char(10) ||
+     'The stereo plays music. The computer has How Am I Doing?, Clean Air, a Home Checkup to print and the Community Chalkboard.' || char(13) || char(10) ||
+     'Exit any time: your progress is saved.'),
 
     ('DripFacts', 'Drip Facts',
      'A tap that drips once a second wastes over 3,000 gallons a year. That is about 8 gallons every day!' || char(13) || char(10) ||
@@ -15,7 +16,7 @@ INSERT INTO InfoBoxes (Name, Title, Text) VALUES
      'Most drips come from a worn washer or seal, a cheap part that a grown-up can often replace in a few minutes.'),
 
     ('ToiletFacts', 'Toilet Facts',
-     'Toilets use nearly 30% of the water in a home, more than anything else indoors.' || char(13) || char(10) ||
+     'Toilets use nearly 30% of the water used indoors in a home, more than anything else.' || char(13) || char(10) ||
      'Toilets made before 1994 use 3.5 to 7 gallons a flush. A WaterSense toilet uses 1.28 gallons or less, and still flushes well.' || char(13) || char(10) ||
      'A running toilet can waste up to 200 gallons a day. To test yours, put a few drops of food coloring in the tank. If color shows in the bowl after 10 minutes without a flush, it leaks.'),
 
@@ -115,7 +116,7 @@ INSERT INTO InfoBoxes (Name, Title, Text) VALUES
     ('FanFacts', 'Ceiling Fan Facts',
      'A ceiling fan cools people, not rooms. Its breeze helps your skin lose heat, so you feel cooler.' || char(13) || char(10) ||
      'A fan in an empty room does nothing useful: switch it off when you leave.' || char(13) || char(10) ||
-     'A fan uses much less electricity than an air conditioner. With a fan running, you can set the air conditioner about 4 degrees F warmer and still feel comfortable.'),
+     'A fan uses much less electricity than an air conditioner. With a fan running, you can set the air conditioner a few degrees warmer and still feel comfortable.'),
 
     ('Chalkboard', 'Community Chalkboard',
      'Ideas that students have shared:' || char(13) || char(10) ||

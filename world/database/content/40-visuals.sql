@@ -107,3 +107,54 @@ INSERT INTO SpriteCelSources (ID, Sprite, Position, Condition, CelSource, Sound)
     (111, 'FittedShowerHead', 3, 'showerhead holds watersenseshowerhead2.0gallons', 'ShowerHeadWaterSense20.bmp', NULL),
     (112, 'FittedShowerHead', 4, 'showerhead holds watersenseshowerhead1.5gallons', 'ShowerHeadWaterSense15.bmp', NULL),
     (113, 'ShowerSpray', 3, 'showerhead !holds watersenseshowerhead1.5gallons', 'ShowerEven.bmp', 'Shower');
+
+
+-- Settings that show in the rooms -------------------------------------------------------------
+-- Still looks (one cel each, never started) that show how a fixture is set: the bulb in the
+-- living room lamp, lit or not; the hall thermostat's display; the water heater's dial, close
+-- up and from across the basement; the sprinkler timer's display; what is on the end of the
+-- garden hose; the bicycle wall of the garage. Each is chosen by the object in the container or
+-- by its state, and every switch of these containers redraws the whole room.
+
+INSERT INTO Sprites (Name, Shot, X, Y, NumFrames, FrameDelay, Loop, Backwards, DrawOrder) VALUES
+    ('LampBulb', 'LivingRoom', 44, 120, 1, 1000, 0, 0, 1),
+    ('ThermostatDisplay', 'Hall', 292, 154, 1, 1000, 0, 0, 1),
+    ('BasementDial', 'Basement', 183, 275, 1, 1000, 0, 0, 1),
+    ('HeaterDial', 'WaterHeater', 250, 250, 1, 1000, 0, 0, 1),
+    ('BikeWall', 'Garage', 440, 28, 1, 1000, 0, 0, 1),
+    ('TimerDisplay', 'Garden', 164, 174, 1, 1000, 0, 0, 1),
+    ('HoseEnd', 'Garden', 396, 286, 1, 1000, 0, 0, 1);
+
+INSERT INTO SpriteCelSources (ID, Sprite, Position, Condition, CelSource, Sound) VALUES
+    (300, 'LampBulb', 1, 'livinglamp state 1' || char(13) || char(10) || 'livingbulb holds incandescentbulb60w',
+          'LampIncandescentLit.bmp', NULL),
+    (301, 'LampBulb', 2, 'livinglamp state 1' || char(13) || char(10) || 'livingbulb holds halogenbulb43w',
+          'LampHalogenLit.bmp', NULL),
+    (302, 'LampBulb', 3, 'livinglamp state 1' || char(13) || char(10) || 'livingbulb holds cflbulb13w',
+          'LampCflLit.bmp', NULL),
+    (303, 'LampBulb', 4, 'livinglamp state 1' || char(13) || char(10) || 'livingbulb holds ledbulb9w',
+          'LampLedLit.bmp', NULL),
+    (304, 'LampBulb', 5, 'livingbulb holds incandescentbulb60w', 'LampIncandescent.bmp', NULL),
+    (305, 'LampBulb', 6, 'livingbulb holds halogenbulb43w', 'LampHalogen.bmp', NULL),
+    (306, 'LampBulb', 7, 'livingbulb holds cflbulb13w', 'LampCfl.bmp', NULL),
+    (307, 'LampBulb', 8, 'livingbulb holds ledbulb9w', 'LampLed.bmp', NULL),
+    (310, 'ThermostatDisplay', 1, 'thermostat holds 72degreesallthetime', 'Thermostat72.bmp', NULL),
+    (311, 'ThermostatDisplay', 2, 'thermostat holds 70degreesallthetime', 'Thermostat70.bmp', NULL),
+    (312, 'ThermostatDisplay', 3, 'thermostat holds 68degreesallthetime', 'Thermostat68.bmp', NULL),
+    (313, 'ThermostatDisplay', 4, 'thermostat holds 68awakeand60asleep', 'ThermostatNight.bmp', NULL),
+    (320, 'BasementDial', 1, 'waterheatersetting holds setto140degrees', 'BasementDial140.bmp', NULL),
+    (321, 'BasementDial', 2, 'waterheatersetting holds setto130degrees', 'BasementDial130.bmp', NULL),
+    (322, 'BasementDial', 3, 'waterheatersetting holds setto120degrees', 'BasementDial120.bmp', NULL),
+    (323, 'BasementDial', 4, 'waterheatersetting holds 120degreesandaninsulatingblanket', 'BasementDial120.bmp', NULL),
+    (324, 'HeaterDial', 1, 'waterheatersetting holds setto140degrees', 'HeaterDial140.bmp', NULL),
+    (325, 'HeaterDial', 2, 'waterheatersetting holds setto130degrees', 'HeaterDial130.bmp', NULL),
+    (326, 'HeaterDial', 3, 'waterheatersetting holds setto120degrees', 'HeaterDial120.bmp', NULL),
+    (327, 'HeaterDial', 4, 'waterheatersetting holds 120degreesandaninsulatingblanket', 'HeaterDial120.bmp', NULL),
+    (330, 'BikeWall', 1, 'schooltrip holds drivingalone', 'TripDrivingAlone.bmp', NULL),
+    (331, 'BikeWall', 2, 'schooltrip holds carpoolwiththreefriends', 'TripCarPool.bmp', NULL),
+    (332, 'BikeWall', 3, 'schooltrip holds walkingorcycling', 'TripCycling.bmp', NULL),
+    (340, 'TimerDisplay', 1, 'sprinkler state 1', 'TimerNoon.bmp', NULL),
+    (341, 'TimerDisplay', 2, 'sprinkler state 0', 'TimerMorning.bmp', NULL),
+    (342, 'HoseEnd', 1, 'hosenozzle holds openhoseend', 'HoseEndOpen.bmp', NULL),
+    (343, 'HoseEnd', 2, 'hosenozzle holds spraynozzle', 'HoseEndSpray.bmp', NULL),
+    (344, 'HoseEnd', 3, 'hosenozzle holds shut-offspraynozzle', 'HoseEndShutOff.bmp', NULL);

@@ -77,7 +77,7 @@ INSERT INTO Dialogs (Name, Text) VALUES
 
     -- The Garage
     ('CarHint', 'The car key. An idling engine burns gas and puffs out exhaust while going nowhere. Click to switch the engine.'),
-    ('SchoolTripHint', 'Your bicycle. How will you get to school? Click to choose.'),
+    ('SchoolTripHint', 'The hooks for your bicycle and school bag. How will you get to school each day? Click to choose.'),
     ('TripChoose', 'For 4 miles to school, driving alone burns about 0.16 gallons of gas. Walking or cycling burns none!'),
     ('CarPosterHint', 'A poster about cars and clean air. Click to read it.'),
     ('GardenDoorHint', 'The door to the back garden. Click to go out.'),

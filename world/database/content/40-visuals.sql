@@ -52,7 +52,9 @@ INSERT INTO Sprites (Name, Shot, X, Y, NumFrames, FrameDelay, Loop, Backwards, D
     ('ComputerScreen', 'Bedroom', 490, 140, 4, 600, -1, 0, 2),
     ('ToiletRipple', 'Bathroom', 95, 236, 4, 250, -1, 0, 1),
     ('ShowerDripping', 'Shower', 270, 130, 6, 180, -1, 0, 1),
-    ('ShowerSpray', 'Shower', 298, 130, 12, 350, 0, 0, 2);
+    ('ShowerSpray', 'Shower', 298, 130, 12, 350, 0, 0, 2),
+    ('CleanAirDone', 'Computer', 183, 9, 1, 50, 0, 0, 1),
+    ('CheckupDone', 'Computer', 285, 9, 1, 50, 0, 0, 1);
 
 
 -- Looks of the sprites ----------------------------------------------------------------------
@@ -85,4 +87,8 @@ INSERT INTO SpriteCelSources (ID, Sprite, Position, Condition, CelSource, Sound)
     (15, 'ToiletRipple', 1, 'toiletleak state 1', 'ToiletRipple.bmp', 'Trickle'),
     (16, 'ShowerDripping', 1, 'showerdrip state 1', 'ShowerDrip.bmp', 'Drip'),
     (17, 'ShowerSpray', 1, 'showerhead holds watersenseshowerhead1.5gallons', 'ShowerFine.bmp', 'Shower'),
-    (18, 'ShowerSpray', 2, 'showerhead !holds watersenseshowerhead1.5gallons', 'ShowerGush.bmp', 'Shower');
+    (18, 'ShowerSpray', 2, 'showerhead !holds watersenseshowerhead1.5gallons', 'ShowerGush.bmp', 'Shower'),
+    (207, 'CleanAirDone', 1, 'cleanair state 1', 'CleanAirDone.bmp', NULL),
+    (208, 'CleanAirDone', 2, 'cleanair state 0', 'CleanAirNotYet.bmp', NULL),
+    (209, 'CheckupDone', 1, 'homecheckup state 1', 'CheckupDone.bmp', NULL),
+    (210, 'CheckupDone', 2, 'homecheckup state 0', 'CheckupNotYet.bmp', NULL);

@@ -33,7 +33,7 @@ INSERT INTO Dialogs (Name, Text) VALUES
     ('FridgeTipsHint', 'Fridge tips pinned to the wall. Click to read them.'),
 
     -- At the Kitchen Sink
-    ('DishesHint', 'A pile of dirty dishes. How will you wash them? Click to choose.'),
+    ('DishesHint', 'The dishes. How will you wash them? Click to choose.'),
     ('DishChoose', 'Washing by hand with the tap running can use up to 27 gallons. A full ENERGY STAR dishwasher uses about 3.5.'),
     ('KitchenTapHint', 'Drip, drip! One drip a second wastes over 3,000 gallons a year. Click to fix the tap.'),
     ('DripCupHint', 'A cup catching the drips. Click to find out how fast drips add up.'),

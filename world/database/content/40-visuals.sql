@@ -41,7 +41,14 @@ INSERT INTO Sprites (Name, Shot, X, Y, NumFrames, FrameDelay, Loop, Backwards, D
     ('CurtainBlow', 'LivingRoom', 462, 46, 6, 150, -1, 0, 1),
     ('TVPicture', 'LivingRoom', 297, 98, 4, 400, -1, 0, 2),
     ('KitchenDrip', 'KitchenSink', 300, 148, 6, 170, -1, 0, 1),
+    ('DishPile', 'KitchenSink', 28, 148, 1, 1000, 0, 0, 1),
+    ('DishwasherFront', 'KitchenSink', 38, 352, 1, 1000, 0, 0, 1),
+    ('FreezerLook', 'Kitchen', 42, 32, 1, 1000, 0, 0, 1),
+    ('FridgeLook', 'Kitchen', 42, 120, 1, 1000, 0, 0, 1),
     ('DryerDrum', 'Laundry', 345, 210, 4, 120, -1, 0, 1),
+    ('WasherLook', 'Laundry', 130, 144, 1, 1000, 0, 0, 1),
+    ('LintFluff', 'Laundry', 334, 150, 1, 1000, 0, 0, 1),
+    ('DryerDoorSwing', 'Laundry', 326, 186, 20, 250, 0, 0, 2),
     ('CarExhaust', 'Garage', 100, 262, 5, 150, -1, 0, 1),
     ('SprinklerSpray', 'Garden', 250, 190, 4, 160, -1, 0, 1),
     ('HoseWater', 'Garden', 440, 280, 4, 120, -1, 0, 2),
@@ -49,7 +56,9 @@ INSERT INTO Sprites (Name, Shot, X, Y, NumFrames, FrameDelay, Loop, Backwards, D
     ('ComputerScreen', 'Bedroom', 490, 140, 4, 600, -1, 0, 2),
     ('ToiletRipple', 'Bathroom', 95, 236, 4, 250, -1, 0, 1),
     ('ShowerDripping', 'Shower', 270, 130, 6, 180, -1, 0, 1),
-    ('ShowerSpray', 'Shower', 298, 130, 12, 350, 0, 0, 2);
+    ('ShowerSpray', 'Shower', 298, 130, 12, 350, 0, 0, 2),
+    ('CleanAirDone', 'Computer', 183, 9, 1, 50, 0, 0, 1),
+    ('CheckupDone', 'Computer', 285, 9, 1, 50, 0, 0, 1);
 
 
 -- Looks of the sprites ----------------------------------------------------------------------
@@ -62,8 +71,29 @@ INSERT INTO SpriteCelSources (ID, Sprite, Position, Condition, CelSource, Sound)
     (3, 'TVPicture', 1, 'tv state 1', 'TVPicture.bmp', 'TVSound'),
     (4, 'TVPicture', 2, 'tv state 0', 'TVBlank.bmp', NULL),
     (5, 'KitchenDrip', 1, 'kitchentap state 1', 'KitchenDrip.bmp', 'Drip'),
+    (211, 'FreezerLook', 1, 'fridge holds 20-year-oldfridge', 'FreezerOld.bmp', NULL),
+    (212, 'FreezerLook', 2, 'fridge holds 10-year-oldfridge', 'FreezerTenYears.bmp', NULL),
+    (213, 'FreezerLook', 3, 'fridge holds energystarfridge', 'FreezerEnergyStar.bmp', NULL),
+    (214, 'FridgeLook', 1, 'fridgedoor state 0' || char(13) || char(10) || 'fridge holds 20-year-oldfridge',
+          'FridgeDoorOld.bmp', NULL),
+    (215, 'FridgeLook', 2, 'fridgedoor state 0' || char(13) || char(10) || 'fridge holds 10-year-oldfridge',
+          'FridgeDoorTenYears.bmp', NULL),
+    (216, 'FridgeLook', 3, 'fridgedoor state 0' || char(13) || char(10) || 'fridge holds energystarfridge',
+          'FridgeDoorEnergyStar.bmp', NULL),
+    (217, 'DishPile', 1, 'dishwashing holds byhandwiththetaprunning', 'DishesDirty.bmp', NULL),
+    (218, 'DishPile', 2, 'dishwashing !holds byhandwiththetaprunning', 'DishesClean.bmp', NULL),
+    (219, 'DishwasherFront', 1, 'dishwashing holds olderdishwasher', 'DishwasherOld.bmp', NULL),
+    (220, 'DishwasherFront', 2, 'dishwashing holds energystardishwasherfullloads', 'DishwasherEnergyStar.bmp', NULL),
+    (221, 'DishwasherFront', 3, 'dishwashing holds byhandwiththetaprunning', 'SinkCabinet.bmp', NULL),
     (6, 'DryerDrum', 1, 'dryer !holds clotheslineonsunnydays', 'DryerTumble.bmp', 'Tumble'),
     (7, 'DryerDrum', 2, 'dryer holds clotheslineonsunnydays', 'DryerStill.bmp', NULL),
+    (200, 'WasherLook', 1, 'washingmachine holds oldtoploader', 'WasherOld.bmp', NULL),
+    (201, 'WasherLook', 2, 'washingmachine holds standardwasher', 'WasherStandard.bmp', NULL),
+    (202, 'WasherLook', 3, 'washingmachine holds energystarwasher', 'WasherEnergyStar.bmp', NULL),
+    (203, 'LintFluff', 1, 'dryer holds dryerforeveryload', 'LintFluffy.bmp', NULL),
+    (204, 'LintFluff', 2, 'dryer !holds dryerforeveryload', 'LintClean.bmp', NULL),
+    (205, 'DryerDoorSwing', 1, 'dryer !holds clotheslineonsunnydays', 'DryerDoorFull.bmp', NULL),
+    (206, 'DryerDoorSwing', 2, 'dryer holds clotheslineonsunnydays', 'DryerDoorEmpty.bmp', NULL),
     (8, 'CarExhaust', 1, 'caridling state 1', 'Exhaust.bmp', 'Engine'),
     (9, 'SprinklerSpray', 1, 'sprinkler state 1', 'SprinklerSpray.bmp', 'Sprinkler'),
     (10, 'HoseWater', 1, 'gardenhose state 1' || char(13) || char(10) || 'hosenozzle holds openhoseend',
@@ -75,7 +105,11 @@ INSERT INTO SpriteCelSources (ID, Sprite, Position, Condition, CelSource, Sound)
     (15, 'ToiletRipple', 1, 'toiletleak state 1', 'ToiletRipple.bmp', 'Trickle'),
     (16, 'ShowerDripping', 1, 'showerdrip state 1', 'ShowerDrip.bmp', 'Drip'),
     (17, 'ShowerSpray', 1, 'showerhead holds watersenseshowerhead1.5gallons', 'ShowerFine.bmp', 'Shower'),
-    (18, 'ShowerSpray', 2, 'showerhead holds oldshowerhead5gallonsaminute', 'ShowerGush.bmp', 'Shower');
+    (18, 'ShowerSpray', 2, 'showerhead holds oldshowerhead5gallonsaminute', 'ShowerGush.bmp', 'Shower'),
+    (207, 'CleanAirDone', 1, 'cleanair state 1', 'CleanAirDone.bmp', NULL),
+    (208, 'CleanAirDone', 2, 'cleanair state 0', 'CleanAirNotYet.bmp', NULL),
+    (209, 'CheckupDone', 1, 'homecheckup state 1', 'CheckupDone.bmp', NULL),
+    (210, 'CheckupDone', 2, 'homecheckup state 0', 'CheckupNotYet.bmp', NULL);
 
 
 -- Upstairs: what is fitted and what is switched on ------------------------------------------

@@ -45,7 +45,7 @@ INSERT INTO Dialogs (Name, Text) VALUES
     ('LaundryDoorHint', 'The door to the laundry room. Click to go through.'),
 
     -- At the Kitchen Sink
-    ('DishesHint', 'A pile of dirty dishes. How will you wash them? Click to choose.'),
+    ('DishesHint', 'The dishes. How will you wash them? Click to choose.'),
     ('DishChoose', 'Washing by hand with the tap running can use up to 27 gallons. A full ENERGY STAR dishwasher uses about 3.5.'),
     ('KitchenTapHint', 'Drip, drip! One drip a second wastes over 3,000 gallons a year. Click to fix the tap.'),
     ('TapFixed', 'Tap fixed! No more drips, and that saves over 3,000 gallons of water a year.'),
@@ -60,9 +60,9 @@ INSERT INTO Dialogs (Name, Text) VALUES
     ('DetergentHint', 'Laundry detergent. Click for laundry facts.'),
     ('DryerHint', 'The dryer''s controls. How will you dry the clothes? Click to choose.'),
     ('DryerChoose', 'On sunny days a clothesline dries clothes for free. If you use the dryer, clean its lint filter first.'),
-    ('DryerDoorHint', 'The dryer door. Click to open it and check the lint filter.'),
-    ('LintFilterHint', 'The lint filter is clogged with fluff! A clean filter helps the dryer dry faster. Click to clean it.'),
-    ('LintCleaned', 'The lint filter is clean. Clean it before every load and the dryer uses less energy. Great job!'),
+    ('DryerDoorHint', 'The dryer door. Click to open it and look inside.'),
+    ('LintFilterHint', 'The dryer''s lint filter. Fluff in it makes the dryer run longer. Click to choose how to dry.'),
+    ('LintChoose', 'Pick "Dryer with a clean lint filter" to clean out the fluff before every load, or dry for free on a clothesline!'),
     ('DryerResting', 'The dryer is resting today: the sun and wind are drying your clothes on the line for free!'),
     ('GarageDoorHint', 'The door to the garage. Click to go through.'),
 

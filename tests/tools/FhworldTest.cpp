@@ -158,6 +158,8 @@ const Fault kFaults[] = {
      "a house with every choice wise scores 63, not 1"},
     {"wise step that doesn't count", "", "", "UPDATE Containers SET DefaultState = 0 WHERE Name = 'Tap';",
      "container Tap: putting it right alone leaves the score at 100"},
+    {"state not shown", "", "", "DELETE FROM VisualRegistry WHERE Container = 'TV';", "container TV: its states all look the same"},
+    {"object not shown", "", "", "DELETE FROM VisualRegistry WHERE Container = 'Bulb';", "container Bulb: its objects all look the same"},
     {"engine's container missing", "", "", "DELETE FROM Containers WHERE Name = 'CleanAir';",
      "the computer's screens set the container \"CleanAir\", which the world lacks"},
 };

@@ -28,6 +28,7 @@ void checkWayToWin(CheckContext& context, const std::map<QString, ScriptEffects>
 // Containers and their objects, sprites and their looks, backdrops, texts, sounds, questions.
 void checkContainers(CheckContext& context);
 void checkPictures(CheckContext& context);
+void checkFixesShown(CheckContext& context);
 void checkTexts(CheckContext& context);
 void checkQuestions(CheckContext& context);
 void checkSoundsAndFixedFiles(CheckContext& context);

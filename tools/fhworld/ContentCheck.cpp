@@ -7,6 +7,8 @@
 #include "sound/MusicPieces.h"
 #include "world/cShot.h"
 
+#include <set>
+
 namespace fh::fhworld {
 
 namespace {
@@ -104,11 +106,36 @@ void checkPictures(CheckContext& context) {
   for (const auto& [name, shot] : world.shots) {
     bool plain = false;
     for (const BackdropRow& backdrop : world.data.backdrops) {
-      plain = plain || (backdrop.shot.toLower() == name && !backdrop.conditional);
+      plain = plain || (backdrop.shot.toLower() == name && backdrop.container.isEmpty());
     }
     if (!plain) {
       problems.add(QStringLiteral("shot %1").arg(shot->sName), QStringLiteral("it has no backdrop that shows whatever the "
                                                                        "fixtures' states (a VisualRegistry row without Container)"));
+    }
+  }
+}
+
+// A fix the student can't see in the house is no fix to a child: every judged container has a
+// backdrop row or a sprite look that depends on it.
+void checkFixesShown(CheckContext& context) {
+  const WorldData& data = context.world.data;
+  std::set<QString> shown;
+  for (const BackdropRow& backdrop : data.backdrops) shown.insert(backdrop.container.toLower());
+  for (const SpriteRow& sprite : data.sprites) {
+    for (const CelRow& look : sprite.looks) {
+      for (const QString& line : look.condition.split(QStringLiteral("\r\n"))) {
+        shown.insert(line.section(QLatin1Char(' '), 0, 0, QString::SectionSkipEmpty).toLower());
+      }
+    }
+  }
+  for (const auto& [key, container] : data.containers) {
+    if (shown.count(key.toLower())) continue;
+    if (container.judgedByState()) {
+      context.problems.add(QStringLiteral("container %1").arg(container.name),
+                           QStringLiteral("its states all look the same: no backdrop row or sprite look depends on it"));
+    } else if (container.judgedByObject()) {
+      context.problems.add(QStringLiteral("container %1").arg(container.name),
+                           QStringLiteral("its objects all look the same: no backdrop row or sprite look depends on it"));
     }
   }
 }

@@ -89,6 +89,7 @@ CheckResult checkWorld(const QString& databaseFolder, const QString& resourceFol
   if (world.set) checkWayToWin(context, checkShots(context, scripts));
   checkContainers(context);
   checkPictures(context);
+  checkFixesShown(context);
   checkTexts(context);
   checkQuestions(context);
   checkSoundsAndFixedFiles(context);

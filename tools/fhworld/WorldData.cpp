@@ -101,7 +101,7 @@ void readPictures(Database& db, WorldData& world) {
   forEachRow(db, QStringLiteral("SELECT * FROM VisualRegistry ORDER BY ID"), [&](const Recordset& row) {
     world.backdrops.push_back({text(row, QStringLiteral("ID")), text(row, QStringLiteral("Shot")),
                                text(row, QStringLiteral("ImageSource")),
-                               !row.Field(QStringLiteral("Container")).isNull()});
+                               text(row, QStringLiteral("Container"))});
   });
 }
 

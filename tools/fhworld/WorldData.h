@@ -57,7 +57,7 @@ struct BackdropRow {
   QString id;
   QString shot;
   QString imageSource;
-  bool conditional = false;
+  QString container;  // empty: the plain backdrop, whatever the fixtures' states
 };
 
 struct QuestionRow {

@@ -27,7 +27,11 @@ VALUES
 INSERT INTO VisualRegistry (Shot, ImageSource, Priority, Container, State, Object) VALUES
     ('Porch', 'Porch.bmp', 0, NULL, NULL, NULL),
     ('Porch', 'PorchDripping.bmp', 0, 'Tap', 1, NULL),
-    ('Computer', 'Desk.bmp', 0, NULL, NULL, NULL);
+    ('Porch', 'PorchTVOn.bmp', 0, 'TV', 1, NULL),
+    ('Porch', 'PorchLed.bmp', 0, 'Bulb', NULL, 'LED bulb'),
+    ('Computer', 'Desk.bmp', 0, NULL, NULL, NULL),
+    ('Computer', 'DeskAirUsed.bmp', 0, 'CleanAir', 1, NULL),
+    ('Computer', 'DeskChecked.bmp', 0, 'HomeCheckup', 1, NULL);
 
 INSERT INTO Sprites (Name, Shot, NumFrames, X, Y, FrameDelay, Loop, Backwards, DrawOrder)
 VALUES ('Drip', 'Porch', 4, 100, 100, 150, -1, 0, 1);

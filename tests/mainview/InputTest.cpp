@@ -30,11 +30,7 @@ namespace fh::test {
 namespace {
 
 std::shared_ptr<cHotSpot> spot(const QString& name, QRect place, const QString& rollover, const QStringList& lines) {
-  auto hotspot = makeHotSpot(name, lines);
-  hotspot->Left = static_cast<i16>(place.left());
-  hotspot->Top = static_cast<i16>(place.top());
-  hotspot->Width = static_cast<i16>(place.width());
-  hotspot->Height = static_cast<i16>(place.height());
+  auto hotspot = placedHotSpot(name, place, lines);
   hotspot->Rollover = rollover;
   return hotspot;
 }
@@ -252,16 +248,6 @@ TEST_F(ClickRoad, TheTelevisionShowsTheCaptionAndLosesTheLinesBehindIt) {
   tick();
   EXPECT_EQ(view().CurrentHotSpotIndex, 3);
   EXPECT_EQ(sounding(), 1);
-}
-
-TEST_F(ClickRoad, AStaleIndexIsForgottenByTheTickWithoutAWord) {
-  view().CurrentHotSpotIndex = 9;
-  moveTo(30, 30);
-  tick();
-  EXPECT_EQ(view().CurrentHotSpotIndex, -1);
-  tick();
-  EXPECT_EQ(view().CurrentHotSpotIndex, 0);
-  EXPECT_TRUE(messages().isEmpty());
 }
 
 // The frame is heard through the window's hook, in pixels of the picture; the right button

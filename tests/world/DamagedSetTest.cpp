@@ -1,5 +1,6 @@
 #include "WorldFixtures.h"
 
+#include "FailureOf.h"
 #include "ScriptedUi.h"
 #include "platform/base/Failure.h"
 
@@ -65,13 +66,9 @@ TEST(HeaderMismatch, TheTenthInOneFileEndsTheReading) {
   ScriptedUi ui;
   ByteFile file = ByteFile::fromBytes(zeros, QStringLiteral("C:\\Fernhollow\\Database\\Zeros.set"));
   cSet set;
-  try {
-    set.Load(file);
-    FAIL() << "a file of zeros was read to its end";
-  } catch (const RuntimeFailure& failure) {
-    EXPECT_EQ(failure.kind(), Failure::InvalidFileFormat);
-    EXPECT_TRUE(failure.message().contains(QStringLiteral("C:\\Fernhollow\\Database\\Zeros.set is damaged"))) << failure.what();
-  }
+  QString message;
+  EXPECT_EQ(failureOf([&] { set.Load(file); }, &message), Failure::InvalidFileFormat);
+  EXPECT_TRUE(message.contains(QStringLiteral("C:\\Fernhollow\\Database\\Zeros.set is damaged"))) << message.toStdString();
   EXPECT_EQ(mismatchTitles(ui), std::vector<QString>(10, QStringLiteral("Shot header mismatch")));
   EXPECT_EQ(ui.messageBoxes()[0].details,
             QStringLiteral("The record at byte 71 of C:\\Fernhollow\\Database\\Zeros.set should begin with \"Shot\"."));

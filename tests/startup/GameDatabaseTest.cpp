@@ -152,16 +152,6 @@ TEST_F(GameDatabase, BackdropFollowsThePlayersContainers) {
   EXPECT_EQ(backdrop(QStringLiteral("Attic"), 1), QStringLiteral("none"));
 }
 
-TEST_F(GameDatabase, LiteralStatementsTakeNamesWithApostrophes) {
-  EXPECT_EQ(db->OpenRecordset(QStringLiteral("SELECT * FROM Dialogs WHERE Name = ?"), {QStringLiteral("gran'swelcome")}).RecordCount(), 1);
-  EXPECT_EQ(db->OpenRecordset(QStringLiteral("SELECT * FROM Shots WHERE Name = ?"), {QStringLiteral("LOUNGE")})
-                .Field(QStringLiteral("Freindly Name")).toText(),
-            QStringLiteral("Gran's Lounge"));
-  EXPECT_EQ(db->OpenRecordset(QStringLiteral("SELECT * FROM InfoBoxes WHERE Name = ?"), {QStringLiteral("showerfacts")}).RecordCount(), 1);
-  EXPECT_EQ(db->OpenRecordset(QStringLiteral("SELECT * FROM StartUp")).Field(QStringLiteral("Script")).toText(),
-            QStringLiteral("loadsound Water.wav water\r\nstartset fixture.set"));
-}
-
 TEST_F(GameDatabase, SavingTheWorldGivesNewShotsARowWithAnEmptyFriendlyName) {
   DatabasePath = folder.path() + u'\\';
   GameDB = db;

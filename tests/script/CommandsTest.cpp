@@ -67,11 +67,8 @@ TEST_F(ArgumentRules, ExtraWordsAreIgnoredAndALeftOutLastWordReadsEmpty) {
   EXPECT_EQ(text(), QStringLiteral("Hello there."));
   run("showdialog  hello");
   EXPECT_EQ(text(), QString());
-  run("goto");
-  run("goto set");
   run("goto shot");
   run("goto  shot hall");
-  run("goto hall");
   EXPECT_EQ(CurrentSet->sName, QStringLiteral("Commands"));
   EXPECT_EQ(CurrentShotIndex, 0);
   EXPECT_EQ(run("object of any kind"), 0);

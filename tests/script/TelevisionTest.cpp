@@ -71,12 +71,5 @@ TEST_F(Television, AFilmByNameShowsNoCaptionAndKeepsTheChannel) {
   EXPECT_EQ(text(), QStringLiteral("before"));
 }
 
-// Under a click the mouse handler swallows the failure: the caption is all the player gets.
-TEST_F(Television, TheFilmEndsTheScriptAndTheCaptionStands) {
-  EXPECT_THROW(RunScript(QStringLiteral("showvideo next\r\nstartset after")), RuntimeFailure);
-  EXPECT_TRUE(StartSetFile.isEmpty());
-  EXPECT_EQ(text(), QStringLiteral("You are watching The Fernhollow Video"));
-}
-
 }  // namespace
 }  // namespace fh::test

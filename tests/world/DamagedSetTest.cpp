@@ -46,18 +46,6 @@ TEST(HeaderMismatch, EachWrongTagIsToldKeptAndReadPast) {
   EXPECT_EQ(savedBytes(set), bad);  // the bad tags are written back as they were read
 }
 
-TEST(HeaderMismatch, ForeignFileCascadesUntilItEnds) {
-  QByteArray foreign;
-  while (foreign.size() < 2000) foreign += "Dear diary, today the kettle boiled twice. ";
-  ScriptedUi ui;
-  cSet set;
-  EXPECT_EQ(loadInto(set, foreign), Failure::InputPastEndOfFile);
-  const std::vector<QString> titles = mismatchTitles(ui);
-  ASSERT_GE(titles.size(), 2u);
-  EXPECT_EQ(titles[0], QStringLiteral("Set header mismatch"));
-  EXPECT_EQ(titles[1], QStringLiteral("Shot header mismatch"));
-}
-
 // Each of the first nine is told and read past; the tenth is told too, and then the file is given up.
 TEST(HeaderMismatch, TheTenthInOneFileEndsTheReading) {
   QByteArray zeros = savedBytes(makeSet(QStringLiteral("Z")));

@@ -7,10 +7,13 @@
 #include "world/cShot.h"
 
 #include "TempFolder.h"
+#include "WorldFixtures.h"
 
 #include <gtest/gtest.h>
 
 using namespace fh;
+using fh::test::makeSet;
+using fh::test::makeShot;
 using fh::test::TempFolder;
 
 namespace {
@@ -149,14 +152,7 @@ TEST_F(GameDatabase, BackdropFollowsThePlayersContainers) {
 TEST_F(GameDatabase, SavingTheWorldGivesNewShotsARowWithAnEmptyFriendlyName) {
   DatabasePath = folder.path() + u'\\';
   GameDB = db;
-  auto kitchen = std::make_shared<cShot>();
-  kitchen->sName = QStringLiteral("Kitchen");
-  auto attic = std::make_shared<cShot>();
-  attic->sName = QStringLiteral("Gran's Attic");
-  CurrentSet = std::make_shared<cSet>();
-  CurrentSet->sName = QStringLiteral("House");
-  CurrentSet->Shots = {kitchen, attic};
-  CurrentSet->nNumShots = 2;
+  CurrentSet = std::make_shared<cSet>(makeSet(QStringLiteral("House"), {makeShot(QStringLiteral("Kitchen")), makeShot(QStringLiteral("Gran's Attic"))}));
   SaveSet();
   GameDB.reset();
   CurrentSet.reset();

@@ -17,14 +17,12 @@ TEST_F(LiveSet, LoadSetBuildsTheAssetsAndShowsTheShotOfTheUsersRecord) {
   CurrentShotIndex = 1;
   LoadSet(QStringLiteral("HOUSE.SET"));
   EXPECT_EQ(CurrentShot, CurrentSet->Shot(1));
-  EXPECT_FALSE(CurrentSet->Shot(2));  // the spare top slot
   EXPECT_EQ(text(), QStringLiteral("The Hall"));
   EXPECT_EQ(view().CurrentBackdrop(), QStringLiteral("Hall.bmp"));
 
   // Sprites in the query's order, each at its own place on the main view; the caller lowers names.
   ASSERT_EQ(CurrentSet->nNumSprites, 4);
   EXPECT_EQ(CurrentSet->GetSprite(3)->SpriteIndex, 3);
-  EXPECT_FALSE(CurrentSet->GetSprite(4));
   EXPECT_EQ(CurrentSet->GetSpriteByName(QStringLiteral("glow")), CurrentSet->GetSprite(2));
   EXPECT_FALSE(CurrentSet->GetSpriteByName(QStringLiteral("Glow")));
 

@@ -164,15 +164,6 @@ TEST_F(DataLayer, SavedQueriesWithoutParametersServeAsTables) {
   EXPECT_EQ(ordered.Field(QStringLiteral("Amount")).toI16(), 0);
 }
 
-TEST_F(DataLayer, ActionQueriesTakeParametersWithBlanksInTheirNames) {
-  QueryDef forget = db->QueryDefs(QStringLiteral("Forget User"));
-  forget.SetParameter(QStringLiteral("User ID"), 1);
-  forget.Execute();
-  forget.Close();
-  EXPECT_EQ(db->OpenRecordset(QStringLiteral("SELECT * FROM Holdings WHERE UserID = ?"), {1}).RecordCount(), 0);
-  EXPECT_EQ(db->OpenRecordset(QStringLiteral("Holdings")).RecordCount(), 1);
-}
-
 // Another program may take the file away or put another in its place; writing on would lose it all.
 TEST_F(DataLayer, AFileRemovedOrReplacedWhileOpenIsNotWrittenInto) {
   const QString file = folder.at(QStringLiteral("Game.mdb"));

@@ -2,7 +2,6 @@
 #include "game/GameState.h"
 #include "platform/base/Failure.h"
 #include "script/Interpreter.h"
-#include "script/ScriptWords.h"
 #include "world/Condition.h"
 
 #include <QStringList>
@@ -117,9 +116,6 @@ TEST_F(WordSplitting, OnlySingleBlanksSeparateAndEveryWordIsLowerCased) {
 }
 
 TEST_F(WordSplitting, TooFewWordsFailAtTheLineAndEarlierLinesStand) {
-  const ScriptWords words(QStringLiteral("goto shot "));
-  EXPECT_EQ(words.word(3), "");
-  EXPECT_THROW(words.word(4), RuntimeFailure);
   EXPECT_EQ(failureOf(script({"startset first", "if seen", "startset second"})), Failure::SubscriptOutOfRange);
   EXPECT_EQ(StartSetFile, "first");
 }

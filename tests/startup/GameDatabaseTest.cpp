@@ -7,10 +7,13 @@
 #include "world/cShot.h"
 
 #include "TempFolder.h"
+#include "WorldFixtures.h"
 
 #include <gtest/gtest.h>
 
 using namespace fh;
+using fh::test::makeSet;
+using fh::test::makeShot;
 using fh::test::TempFolder;
 
 namespace {
@@ -92,20 +95,14 @@ TEST_F(GameDatabase, NewUserStartsAtTheBaselinesAndMakingRowsTwiceAddsNothing) {
   EXPECT_EQ(rowsOf(QStringLiteral("UserContainers"), QStringLiteral("User ID"), 1), 5);
 }
 
+// The removal's steps are seen at work in the login; besides them, a player's rows go with the
+// player's own row, and none can be made for a player who isn't there.
 TEST_F(GameDatabase, RemovalLeavesNothingOfThePlayer) {
-  execute(QStringLiteral("Remove User Step 1"), QStringLiteral("SelectUserID"), 2);
-  execute(QStringLiteral("Remove User Step 2"), QStringLiteral("SelectUserID"), 2);
-  db->OpenRecordset(QStringLiteral("SELECT * FROM Users WHERE \"User Name\" = ?"), {QStringLiteral("wendy")}).Delete();
-  EXPECT_EQ(rowsOf(QStringLiteral("UserContainers"), QStringLiteral("User ID"), 2), 0);
-  EXPECT_EQ(rowsOf(QStringLiteral("HomeCheckupAnswers"), QStringLiteral("User ID"), 2), 0);
-  EXPECT_EQ(rowsOf(QStringLiteral("UserContainers"), QStringLiteral("User ID"), 3), 5);  // others keep theirs
-
-  // The links hold besides the steps: a player's rows go with the player's own row, and none can
-  // be made for a player who isn't there.
   db->OpenRecordset(QStringLiteral("SELECT * FROM Users WHERE ID = 3")).Delete();
   EXPECT_EQ(rowsOf(QStringLiteral("UserContainers"), QStringLiteral("User ID"), 3), 0);
-  EXPECT_THROW(execute(QStringLiteral("Make New User"), QStringLiteral("User ID"), 2), RuntimeFailure);
-  EXPECT_EQ(rowsOf(QStringLiteral("UserContainers"), QStringLiteral("User ID"), 2), 0);
+  EXPECT_EQ(rowsOf(QStringLiteral("UserContainers"), QStringLiteral("User ID"), 2), 5);  // others keep theirs
+  EXPECT_THROW(execute(QStringLiteral("Make New User"), QStringLiteral("User ID"), 9), RuntimeFailure);
+  EXPECT_EQ(rowsOf(QStringLiteral("UserContainers"), QStringLiteral("User ID"), 9), 0);
 }
 
 TEST_F(GameDatabase, GetContainerEditsThisUsersRowOnly) {
@@ -152,27 +149,10 @@ TEST_F(GameDatabase, BackdropFollowsThePlayersContainers) {
   EXPECT_EQ(backdrop(QStringLiteral("Attic"), 1), QStringLiteral("none"));
 }
 
-TEST_F(GameDatabase, LiteralStatementsTakeNamesWithApostrophes) {
-  EXPECT_EQ(db->OpenRecordset(QStringLiteral("SELECT * FROM Dialogs WHERE Name = ?"), {QStringLiteral("gran'swelcome")}).RecordCount(), 1);
-  EXPECT_EQ(db->OpenRecordset(QStringLiteral("SELECT * FROM Shots WHERE Name = ?"), {QStringLiteral("LOUNGE")})
-                .Field(QStringLiteral("Freindly Name")).toText(),
-            QStringLiteral("Gran's Lounge"));
-  EXPECT_EQ(db->OpenRecordset(QStringLiteral("SELECT * FROM InfoBoxes WHERE Name = ?"), {QStringLiteral("showerfacts")}).RecordCount(), 1);
-  EXPECT_EQ(db->OpenRecordset(QStringLiteral("SELECT * FROM StartUp")).Field(QStringLiteral("Script")).toText(),
-            QStringLiteral("loadsound Water.wav water\r\nstartset fixture.set"));
-}
-
 TEST_F(GameDatabase, SavingTheWorldGivesNewShotsARowWithAnEmptyFriendlyName) {
   DatabasePath = folder.path() + u'\\';
   GameDB = db;
-  auto kitchen = std::make_shared<cShot>();
-  kitchen->sName = QStringLiteral("Kitchen");
-  auto attic = std::make_shared<cShot>();
-  attic->sName = QStringLiteral("Gran's Attic");
-  CurrentSet = std::make_shared<cSet>();
-  CurrentSet->sName = QStringLiteral("House");
-  CurrentSet->Shots = {kitchen, attic};
-  CurrentSet->nNumShots = 2;
+  CurrentSet = std::make_shared<cSet>(makeSet(QStringLiteral("House"), {makeShot(QStringLiteral("Kitchen")), makeShot(QStringLiteral("Gran's Attic"))}));
   SaveSet();
   GameDB.reset();
   CurrentSet.reset();

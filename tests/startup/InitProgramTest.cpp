@@ -1,6 +1,5 @@
 #include "game/GameState.h"
 #include "platform/base/Failure.h"
-#include "platform/files/FileNames.h"
 #include "platform/files/Settings.h"
 #include "sound/cSoundMgr.h"
 #include "startup/DirectoryLists.h"
@@ -17,7 +16,6 @@
 using namespace fh;
 using fh::test::pictureBytes;
 using fh::test::ScriptedUi;
-using fh::test::Shown;
 using fh::test::TempFolder;
 using fh::test::WorkingDirectory;
 
@@ -50,15 +48,6 @@ class StartUp : public testing::Test {
 };
 
 }  // namespace
-
-TEST_F(StartUp, DatabaseFolderLiesBesideTheProgram) {
-  WorkingDirectory here(tree.path());
-  tree.write(QStringLiteral("Graphics/Menu.bmp"));
-  ScriptedUi ui;
-  InitProgram();
-  EXPECT_EQ(DatabasePath, programFolder() + QStringLiteral("\\Database\\"));
-  EXPECT_EQ(MasterPassword, QStringLiteral("oakmeadow"));
-}
 
 TEST_F(StartUp, FirstRunInsideTheResourceTreeAsksNothing) {
   WorkingDirectory here(tree.path());
@@ -105,9 +94,7 @@ TEST_F(StartUp, SetupComesBackUntilAFolderWithGraphicsIsChosen) {
   InitProgram();
 
   ASSERT_EQ(ui.shown().size(), 2u);
-  EXPECT_EQ(ui.shown()[0].kind, Shown::Kind::Modal);
   EXPECT_EQ(ui.shown()[0].text, QStringLiteral("frmSetup"));
-  EXPECT_EQ(ui.shown()[0].title, QStringLiteral("Can't see the CD!"));
   // OK stores the folder as chosen, with a backslash and without upper-casing.
   EXPECT_EQ(ResourcePath, right + u'\\');
   EXPECT_EQ(storedSetting(QStringLiteral("ResourcePath")), right + u'\\');
@@ -135,14 +122,4 @@ TEST_F(StartUp, PanBaseZeroIsUsedUntilSetupIsConfirmed) {
   storeSetting(QStringLiteral("PanBase"), QStringLiteral("-1200"));
   InitProgram();
   EXPECT_EQ(SoundMgr().PanBase, -1200);
-}
-
-TEST_F(StartUp, PanBaseThatIsNoSixteenBitNumberStopsTheProgram) {
-  WorkingDirectory here(tree.path());
-  tree.write(QStringLiteral("Graphics/Menu.bmp"));
-  ScriptedUi ui;
-  storeSetting(QStringLiteral("PanBase"), QStringLiteral("loud"));
-  EXPECT_THROW(InitProgram(), RuntimeFailure);
-  storeSetting(QStringLiteral("PanBase"), QStringLiteral("40000"));
-  EXPECT_THROW(InitProgram(), RuntimeFailure);
 }

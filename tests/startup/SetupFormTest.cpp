@@ -5,8 +5,6 @@
 #include "ScriptedUi.h"
 #include "TempFolder.h"
 
-#include <QLabel>
-#include <QPushButton>
 #include <QStorageInfo>
 
 #include <gtest/gtest.h>
@@ -15,24 +13,6 @@ using namespace fh;
 using fh::test::QuitCalled;
 using fh::test::ScriptedUi;
 using fh::test::TempFolder;
-
-TEST(SetupForm, HasTheLayoutAndTextsOfTheDialog) {
-  frmSetup& form = setupForm();
-  EXPECT_EQ(form.windowTitle(), QStringLiteral("Can't see the CD!"));
-  EXPECT_EQ(form.size(), QSize(574, 167));
-  EXPECT_EQ(form.Label1->text(), QStringLiteral("Resource Directory"));
-  EXPECT_EQ(form.Label1->geometry(), QRect(12, 16, 167, 20));
-  EXPECT_EQ(form.Drive1->geometry(), QRect(12, 40, 164, 21));
-  EXPECT_EQ(form.Dir1->geometry(), QRect(12, 64, 164, 96));
-  EXPECT_TRUE(form.Label2->text().startsWith(QStringLiteral("The Fernhollow CD was not detected.  Please make sure")));
-  EXPECT_TRUE(form.Label2->text().endsWith(QStringLiteral("use the controls to the left to point to the new location.")));
-  EXPECT_EQ(form.Label2->geometry(), QRect(194, 22, 363, 91));
-  EXPECT_EQ(form.btnCancel->text(), QStringLiteral("Quit"));
-  EXPECT_EQ(form.btnCancel->geometry(), QRect(196, 122, 88, 35));
-  EXPECT_EQ(form.btnOK->text(), QStringLiteral("OK"));
-  EXPECT_EQ(form.btnOK->geometry(), QRect(456, 122, 101, 37));
-  EXPECT_TRUE(form.btnOK->isDefault());
-}
 
 TEST(SetupForm, ComingUpShowsTheRootOfTheChosenDrive) {
   TempFolder tree;

@@ -21,6 +21,16 @@ QString TempFolder::makeFolder(const QString& relative) const {
   return at(relative);
 }
 
+QByteArray fileBytes(const QString& path) {
+  QFile in(path);
+  return in.open(QIODevice::ReadOnly) ? in.readAll() : QByteArray();
+}
+
+bool setModified(const QString& path, const QDateTime& when) {
+  QFile file(path);
+  return file.open(QIODevice::ReadWrite) && file.setFileTime(when, QFileDevice::FileModificationTime);
+}
+
 WorkingDirectory::WorkingDirectory(const QString& path) : m_before(QDir::currentPath()) { QDir::setCurrent(path); }
 
 WorkingDirectory::~WorkingDirectory() { QDir::setCurrent(m_before); }

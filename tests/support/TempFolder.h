@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QByteArray>
+#include <QDateTime>
 #include <QDir>
 #include <QString>
 #include <QTemporaryDir>
@@ -21,6 +22,11 @@ class TempFolder {
  private:
   QTemporaryDir m_dir;
 };
+
+// The bytes of a file; empty when it can't be read.
+QByteArray fileBytes(const QString& path);
+// Gives a file another time of last change, as though it had been written then.
+bool setModified(const QString& path, const QDateTime& when);
 
 // Sets the working directory for the lifetime of the object.
 class WorkingDirectory {

@@ -41,16 +41,12 @@ TEST(FhsetBuild, ProblemsAreToldWithTheirLinesAndNothingIsBuilt) {
       {"set S\nshot A\nhotspot H\nto-left B\n", "w.txt:4: 'to-left' belongs to a shot, whose fields come before its first hotspot"},
       {"set S\ncolour red\n", "w.txt:2: unknown key 'colour'; the keys here are current-shot, header, shot"},
       {"set S\ncurrent-shot 1\ncurrent-shot 2\n", "w.txt:3: 'current-shot' is given twice in this record; the first is on line 2"},
-      {"set S\ncurrent-shot one\n", "w.txt:2: 'one' is not a whole number"},
       {"set S\ncurrent-shot 32768\n", "w.txt:2: 32768 is out of range; numbers run from -32768 to 32767"},
-      {"set S\nshot A\nelapsed-time maybe\n", "w.txt:3: expected yes or no, not 'maybe'"},
       {"set S\nshot A\nhotspot H\ndo 12345678901234567890123456789012345678901234567890123456789012345\n",
        "w.txt:4: the text is 65 characters long; a set file keeps 64, and the game would lose the rest"},
       {"set S\nheader Sets\n", "w.txt:2: the header of the set must be 3 characters long, as the game reads 3 bytes for it; this one has 4"},
-      {"set \"S\n", "w.txt:1: a text that begins with a double quote must end with one"},
       {"set a\tb\n", "w.txt:1: the control character U+0009 must be written as \\x09 inside double quotes"},
       {"set \xE2\x98\x83\n", "w.txt:1: '\u2603' (U+2603) is not a Windows-1252 character, and set files hold only those"},
-      {"shot A\n", "w.txt:1: a shot needs the 'set' line before it"},
       {"# nothing\n", "w.txt:1: there is no 'set' line; a world file begins with 'set' and the set's name"},
   };
   for (const Case& c : cases) {

@@ -2,6 +2,8 @@
 #include "WorldDump.h"
 #include "WorldFixtures.h"
 
+#include "TempFolder.h"
+
 #include <QDir>
 #include <QFile>
 
@@ -20,19 +22,14 @@ QByteArray rebuilt(const QByteArray& bytes) {
   return built.set ? savedBytes(*built.set) : QByteArray();
 }
 
-QByteArray contentOf(const QString& path) {
-  QFile file(path);
-  return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-}
-
 // The fuzz seeds come in pairs: a world file and its dump, which also shows the text form.
 TEST(FhsetText, SeedWorldsAndTheirTextsAreEachOthersImage) {
   const QDir seeds(QStringLiteral(FH_SEEDS_FOLDER));
   const QStringList worlds = seeds.entryList({QStringLiteral("*.set")});
   ASSERT_GE(worlds.size(), 3);
   for (const QString& world : worlds) {
-    const QByteArray bytes = contentOf(seeds.filePath(world));
-    const QByteArray text = contentOf(seeds.filePath(QString(world).replace(QStringLiteral(".set"), QStringLiteral(".txt"))));
+    const QByteArray bytes = fileBytes(seeds.filePath(world));
+    const QByteArray text = fileBytes(seeds.filePath(QString(world).replace(QStringLiteral(".set"), QStringLiteral(".txt"))));
     EXPECT_EQ(dumpSetFile(bytes, world).text.toUtf8(), text) << world.toStdString();
     const fhset::Built built = buildSet(text, world);
     ASSERT_TRUE(built.set) << world.toStdString();

@@ -17,14 +17,12 @@ TEST_F(LiveSet, LoadSetBuildsTheAssetsAndShowsTheShotOfTheUsersRecord) {
   CurrentShotIndex = 1;
   LoadSet(QStringLiteral("HOUSE.SET"));
   EXPECT_EQ(CurrentShot, CurrentSet->Shot(1));
-  EXPECT_FALSE(CurrentSet->Shot(2));  // the spare top slot
   EXPECT_EQ(text(), QStringLiteral("The Hall"));
   EXPECT_EQ(view().CurrentBackdrop(), QStringLiteral("Hall.bmp"));
 
   // Sprites in the query's order, each at its own place on the main view; the caller lowers names.
   ASSERT_EQ(CurrentSet->nNumSprites, 4);
   EXPECT_EQ(CurrentSet->GetSprite(3)->SpriteIndex, 3);
-  EXPECT_FALSE(CurrentSet->GetSprite(4));
   EXPECT_EQ(CurrentSet->GetSpriteByName(QStringLiteral("glow")), CurrentSet->GetSprite(2));
   EXPECT_FALSE(CurrentSet->GetSpriteByName(QStringLiteral("Glow")));
 
@@ -83,23 +81,6 @@ TEST(SetShots, DeleteShiftsTheRestDownAndTheLastOneClearsTheCurrentShot) {
   set.DeleteShot(0);
   EXPECT_EQ(set.nNumShots, 0);
   EXPECT_FALSE(CurrentShot);
-}
-
-// The shots run from 0 to nNumShots, whose slot stays empty. A delete at or past it moves nothing,
-// yet the count falls and the resize leaves the last shot in the new top slot, out of the count.
-TEST(SetShots, DeletingAtOrPastTheTopTakesTheLastShotOutOfTheCount) {
-  cSet set = makeSet(QStringLiteral("S"), {makeShot(QStringLiteral("A")), makeShot(QStringLiteral("B"))});
-  EXPECT_FALSE(set.Shot(2));
-  EXPECT_EQ(failureOf([&] { set.Shot(3); }), Failure::SubscriptOutOfRange);
-  set.DeleteShot(7);
-  EXPECT_EQ(set.nNumShots, 1);
-  EXPECT_EQ(set.Shot(1)->sName, QStringLiteral("B"));
-  EXPECT_EQ(failureOf([&] { set.Shot(2); }), Failure::SubscriptOutOfRange);
-  EXPECT_EQ(savedBytes(set).size(), cSet::kEmptyRecordSize + cShot::kEmptyRecordSize);
-  // With no shots left the count falls below 0, where no array can be sized.
-  set.DeleteShot(0);
-  EXPECT_EQ(failureOf([&] { set.DeleteShot(0); }), Failure::SubscriptOutOfRange);
-  EXPECT_EQ(set.nNumShots, -1);
 }
 
 }  // namespace

@@ -1,11 +1,10 @@
 #include "WorldFixtures.h"
 
+#include "FailureOf.h"
 #include "TempFolder.h"
 #include "game/GameState.h"
 #include "platform/base/Failure.h"
 #include "world/SetFile.h"
-
-#include <QFile>
 
 #include <gtest/gtest.h>
 
@@ -24,18 +23,13 @@ class SetFileTest : public testing::Test {
     CurrentSet.reset();
   }
 
-  QByteArray fileBytes(const QString& name) const {
-    QFile file(folder.at(name));
-    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-  }
-
   TempFolder folder;
 };
 
 TEST_F(SetFileTest, SetWithoutNameIsSavedAsUntiltled) {
   CurrentSet = std::make_shared<cSet>();
   SaveSet();
-  const QByteArray bytes = fileBytes(QStringLiteral("Untiltled.set"));
+  const QByteArray bytes = fileBytes(folder.at(QStringLiteral("Untiltled.set")));
   ASSERT_EQ(bytes.size(), 71);
   EXPECT_EQ(bytes.mid(3, 64), QByteArray(64, ' '));
 }
@@ -44,7 +38,7 @@ TEST_F(SetFileTest, SaveReplacesTheOldFileOfTheName) {
   folder.write(QStringLiteral("World.set"), QByteArray(1000, 'x'));
   CurrentSet = std::make_shared<cSet>(makeSet(QStringLiteral("World")));
   SaveSet();
-  EXPECT_EQ(fileBytes(QStringLiteral("World.set")), savedBytes(*CurrentSet));
+  EXPECT_EQ(fileBytes(folder.at(QStringLiteral("World.set"))), savedBytes(*CurrentSet));
 }
 
 TEST_F(SetFileTest, LoadOfNoNameDoesNothingAndOfAMissingFileFails) {
@@ -52,12 +46,7 @@ TEST_F(SetFileTest, LoadOfNoNameDoesNothingAndOfAMissingFileFails) {
   CurrentSet = before;
   LoadSet(QString());
   EXPECT_EQ(CurrentSet, before);
-  try {
-    LoadSet(QStringLiteral("Nowhere.set"));
-    FAIL() << "a missing file was read";
-  } catch (const RuntimeFailure& failure) {
-    EXPECT_EQ(failure.kind(), Failure::FileNotFound);
-  }
+  EXPECT_EQ(failureOf([] { LoadSet(QStringLiteral("Nowhere.set")); }), Failure::FileNotFound);
 }
 
 }  // namespace

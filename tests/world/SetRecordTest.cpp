@@ -12,13 +12,6 @@ QByteArray i16Bytes(int value) {
   return QByteArray(bytes, 2);
 }
 
-TEST(RecordBytes, EmptyRecordsHaveTheirFixedSizes) {
-  EXPECT_EQ(savedBytes(cSet()).size(), 71);
-  EXPECT_EQ(savedBytes(cShot()).size(), 200);
-  EXPECT_EQ(savedBytes(cHotSpot()).size(), 151);
-  EXPECT_EQ(savedBytes(*makeHotSpot(QStringLiteral("x"), {QStringLiteral("a"), QStringLiteral("b")})).size(), 151 + 2 * 64);
-}
-
 TEST(RecordBytes, SetWithOneEmptyShotIsTheKnown271Bytes) {
   const QByteArray expected = "Set" + text64("A") + i16Bytes(1) + i16Bytes(-1) +  //
                               "Shot" + text64("B") + QByteArray(128, ' ') + i16Bytes(0) + i16Bytes(0);

@@ -6,6 +6,7 @@
 #include "world/cShot.h"
 
 #include <QByteArray>
+#include <QRect>
 #include <QStringList>
 
 #include <memory>
@@ -32,6 +33,16 @@ inline std::shared_ptr<cHotSpot> makeHotSpot(const QString& name, const QStringL
   hotSpot->Name = name;
   hotSpot->ScriptLines = lines;
   hotSpot->NumScriptLines = static_cast<i16>(lines.size());
+  return hotSpot;
+}
+
+// A hotspot at `place` on the picture.
+inline std::shared_ptr<cHotSpot> placedHotSpot(const QString& name, QRect place, const QStringList& lines = {}) {
+  auto hotSpot = makeHotSpot(name, lines);
+  hotSpot->Left = static_cast<i16>(place.left());
+  hotSpot->Top = static_cast<i16>(place.top());
+  hotSpot->Width = static_cast<i16>(place.width());
+  hotSpot->Height = static_cast<i16>(place.height());
   return hotSpot;
 }
 

@@ -42,65 +42,44 @@ QString room(const QString& wall) {
       .arg(wall);
 }
 
-QByteArray fileBytes(const QString& file) {
-  QFile in(file);
-  in.open(QIODevice::ReadOnly);
-  return in.readAll();
-}
-
 quint32 littleEndian(const QByteArray& bytes, int offset, int size) {
   quint32 value = 0;
   for (int i = size - 1; i >= 0; --i) value = (value << 8) | static_cast<uchar>(bytes[offset + i]);
   return value;
 }
 
-TEST(FhartRender, PicturesTakeTheirSizeAndShareOnePaletteOf256Colours) {
-  TempFolder folder;
-  folder.write(QStringLiteral("art/Kitchen.svg"), svg(120, 60, room(QStringLiteral("#f6e7c8"))));
-  folder.write(QStringLiteral("art/Tiny.svg"),
-               QByteArray("<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"7px\" height=\"3\"><rect width=\"7\" height=\"3\" fill=\"#e04a3a\"/></svg>"));
-  const FhartRun run = fhart({QStringLiteral("render"), folder.at(QStringLiteral("art")), folder.at(QStringLiteral("out"))});
-  ASSERT_EQ(run.code, 0) << run.err.toStdString();
-  EXPECT_TRUE(run.err.isEmpty()) << run.err.toStdString();
-
-  const QImage kitchen(folder.at(QStringLiteral("out/Kitchen.bmp")));
-  const QImage tiny(folder.at(QStringLiteral("out/Tiny.bmp")));
-  EXPECT_EQ(kitchen.size(), QSize(120, 60));
-  EXPECT_EQ(tiny.size(), QSize(7, 3));
-  EXPECT_EQ(kitchen.format(), QImage::Format_Indexed8);
-  EXPECT_EQ(tiny.format(), QImage::Format_Indexed8);
-  EXPECT_EQ(kitchen.colorCount(), 256);
-  EXPECT_EQ(kitchen.colorTable(), tiny.colorTable());
-
-  // The file itself: 8 bits a pixel, a table of 256 colours, however few the picture uses.
-  const QByteArray header = fileBytes(folder.at(QStringLiteral("out/Tiny.bmp")));
-  EXPECT_EQ(header.left(2), QByteArray("BM"));
-  EXPECT_EQ(littleEndian(header, 28, 2), 8u);
-  EXPECT_EQ(littleEndian(header, 46, 4), 256u);
-
-  EXPECT_EQ(kitchen.pixel(5, 5), qRgb(0xf6, 0xe7, 0xc8));
-  EXPECT_EQ(kitchen.pixel(100, 50), qRgb(0xc9, 0x8b, 0x52));
-  EXPECT_EQ(kitchen.pixel(30, 20), qRgb(0x7c, 0xc4, 0xe8));
-  EXPECT_EQ(tiny.pixel(3, 1), qRgb(0xe0, 0x4a, 0x3a));
-}
-
-TEST(FhartRender, SeveralFoldersShareOnePaletteThatCanBeWrittenAsAPicture) {
+// Pictures of several folders, each rendered into its own, share one palette of 256 colours, which
+// can also be written as a picture of 16 by 16 swatches.
+TEST(FhartRender, PicturesTakeTheirSizeAndShareOnePaletteThatCanBeWrittenAsAPicture) {
   TempFolder folder;
   folder.write(QStringLiteral("house/Kitchen.svg"), svg(120, 60, room(QStringLiteral("#f6e7c8"))));
-  folder.write(QStringLiteral("windows/Button.svg"), svg(40, 20, room(QStringLiteral("#9b5d8f"))));
+  folder.write(QStringLiteral("windows/Tiny.svg"),
+               QByteArray("<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"7px\" height=\"3\"><rect width=\"7\" height=\"3\" fill=\"#e04a3a\"/></svg>"));
   const FhartRun run = fhart({QStringLiteral("render"), QStringLiteral("--palette-picture"), folder.at(QStringLiteral("win/Palette.bmp")),
                               folder.at(QStringLiteral("house")), folder.at(QStringLiteral("out")),
                               folder.at(QStringLiteral("windows")), folder.at(QStringLiteral("win"))});
   ASSERT_EQ(run.code, 0) << run.err.toStdString();
+  EXPECT_TRUE(run.err.isEmpty()) << run.err.toStdString();
 
   const QImage kitchen(folder.at(QStringLiteral("out/Kitchen.bmp")));
-  const QImage button(folder.at(QStringLiteral("win/Button.bmp")));
+  const QImage tiny(folder.at(QStringLiteral("win/Tiny.bmp")));
+  EXPECT_FALSE(QFileInfo::exists(folder.at(QStringLiteral("out/Tiny.bmp"))));
+  EXPECT_EQ(kitchen.size(), QSize(120, 60));
+  EXPECT_EQ(tiny.size(), QSize(7, 3));
+  EXPECT_EQ(kitchen.format(), QImage::Format_Indexed8);
+  EXPECT_EQ(kitchen.colorTable(), tiny.colorTable());
+  EXPECT_EQ(kitchen.pixel(5, 5), qRgb(0xf6, 0xe7, 0xc8));
+  EXPECT_EQ(kitchen.pixel(30, 20), qRgb(0x7c, 0xc4, 0xe8));
+  EXPECT_EQ(tiny.pixel(3, 1), qRgb(0xe0, 0x4a, 0x3a));
+
+  // The file itself: 8 bits a pixel, a table of 256 colours, however few the picture uses.
+  const QByteArray header = fileBytes(folder.at(QStringLiteral("win/Tiny.bmp")));
+  EXPECT_EQ(header.left(2), QByteArray("BM"));
+  EXPECT_EQ(littleEndian(header, 28, 2), 8u);
+  EXPECT_EQ(littleEndian(header, 46, 4), 256u);
+
   const QImage palette(folder.at(QStringLiteral("win/Palette.bmp")));
-  EXPECT_FALSE(QFileInfo::exists(folder.at(QStringLiteral("out/Button.bmp"))));
-  EXPECT_EQ(button.pixel(2, 2), qRgb(0x9b, 0x5d, 0x8f));
-  EXPECT_EQ(kitchen.colorTable(), button.colorTable());
   ASSERT_EQ(palette.size(), QSize(640, 480));
-  EXPECT_EQ(palette.format(), QImage::Format_Indexed8);
   EXPECT_EQ(palette.colorTable(), kitchen.colorTable());
   // Each swatch of 40 x 30 is its entry, row by row.
   for (int entry : {0, 17, 128, 255}) {
@@ -109,13 +88,6 @@ TEST(FhartRender, SeveralFoldersShareOnePaletteThatCanBeWrittenAsAPicture) {
     EXPECT_EQ(palette.pixelIndex(left, top), entry);
     EXPECT_EQ(palette.pixelIndex(left + 39, top + 29), entry);
   }
-
-  const FhartRun again = fhart({QStringLiteral("render"), QStringLiteral("--palette-picture"), folder.at(QStringLiteral("win/Palette.bmp")),
-                                folder.at(QStringLiteral("house")), folder.at(QStringLiteral("out")),
-                                folder.at(QStringLiteral("windows")), folder.at(QStringLiteral("win"))});
-  EXPECT_TRUE(again.out.contains(QStringLiteral("the palette in"))) << again.out.toStdString();
-  EXPECT_TRUE(again.out.contains(QStringLiteral("unchanged\n"))) << again.out.toStdString();
-  EXPECT_FALSE(again.out.contains(QStringLiteral(", written\n"))) << again.out.toStdString();
 }
 
 TEST(FhartRender, FlatColoursStayExactAmongMoreColoursThanThePaletteHolds) {
@@ -159,11 +131,7 @@ TEST(FhartRender, UnchangedPicturesAreNotRewritten) {
   ASSERT_EQ(fhart({QStringLiteral("render"), art, out}).code, 0);
 
   const QDateTime longAgo(QDate(2001, 1, 1), QTime(12, 0));
-  for (const QString& name : {QStringLiteral("out/Hall.bmp"), QStringLiteral("out/Porch.bmp")}) {
-    QFile file(folder.at(name));
-    ASSERT_TRUE(file.open(QIODevice::ReadWrite));
-    ASSERT_TRUE(file.setFileTime(longAgo, QFileDevice::FileModificationTime));
-  }
+  for (const char* name : {"out/Hall.bmp", "out/Porch.bmp"}) ASSERT_TRUE(setModified(folder.at(QLatin1String(name)), longAgo));
   const FhartRun again = fhart({QStringLiteral("render"), art, out});
   ASSERT_EQ(again.code, 0);
   EXPECT_TRUE(again.out.contains(QStringLiteral("0 written, 2 unchanged"))) << again.out.toStdString();
@@ -174,11 +142,7 @@ TEST(FhartRender, UnchangedPicturesAreNotRewritten) {
   const QString doormat = QStringLiteral("<rect x=\"%1\" y=\"2\" width=\"4\" height=\"4\" fill=\"#3b2a20\"/>");
   folder.write(QStringLiteral("art/Porch.svg"), svg(41, 30, room(QStringLiteral("#f4cdb0")) + doormat.arg(2)));
   ASSERT_EQ(fhart({QStringLiteral("render"), art, out}).code, 0);
-  {
-    QFile hall(folder.at(QStringLiteral("out/Hall.bmp")));
-    ASSERT_TRUE(hall.open(QIODevice::ReadWrite));
-    ASSERT_TRUE(hall.setFileTime(longAgo, QFileDevice::FileModificationTime));
-  }
+  ASSERT_TRUE(setModified(folder.at(QStringLiteral("out/Hall.bmp")), longAgo));
   folder.write(QStringLiteral("art/Porch.svg"), svg(41, 30, room(QStringLiteral("#f4cdb0")) + doormat.arg(9)));
   const FhartRun changed = fhart({QStringLiteral("render"), art, out});
   EXPECT_TRUE(changed.out.contains(QStringLiteral("1 written, 1 unchanged"))) << changed.out.toStdString();
@@ -253,11 +217,7 @@ TEST(FhartCommandLine, FoldersAndArgumentsAreChecked) {
   const FhartRun missing = fhart({QStringLiteral("render"), folder.at(QStringLiteral("gone")), folder.at(QStringLiteral("out"))});
   EXPECT_EQ(missing.code, 2);
   EXPECT_TRUE(missing.err.contains(QStringLiteral("there is no folder"))) << missing.err.toStdString();
-  EXPECT_EQ(fhart({QStringLiteral("preview"), folder.at(QStringLiteral("gone.svg")), folder.at(QStringLiteral("x.png"))}).code, 2);
   EXPECT_EQ(fhart({QStringLiteral("render"), folder.at(QStringLiteral("empty"))}).code, 2);
-  EXPECT_EQ(fhart({QStringLiteral("render"), folder.at(QStringLiteral("empty")), folder.at(QStringLiteral("out")),
-                   folder.at(QStringLiteral("empty"))}).code, 2);
-  EXPECT_EQ(fhart({QStringLiteral("render"), QStringLiteral("--palette-picture")}).code, 2);
   EXPECT_EQ(fhart({QStringLiteral("draw")}).code, 2);
   EXPECT_EQ(fhart({QStringLiteral("--help")}).code, 0);
 }

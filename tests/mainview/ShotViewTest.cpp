@@ -7,6 +7,7 @@
 #include "platform/desktop/PictureBox.h"
 #include "world/cShot.h"
 
+#include "FailureOf.h"
 #include "ScriptedUi.h"
 #include "TempFolder.h"
 
@@ -162,6 +163,8 @@ TEST_F(MainView, TheScoreSetsTheMetersSpeedAndAWinSaysWise) {
     EXPECT_EQ(CurrentScore, score);
     EXPECT_EQ(view.Score->text(), QString::number(score));
   }
+  // The distance from 110 is a 16-bit difference: far below 0 it overflows instead of wrapping.
+  EXPECT_EQ(failureOf([&] { view.SetScore(-32700); }), Failure::Overflow);
   UserHasWonGame = true;
   view.SetScore(37);
   EXPECT_EQ(view.Score->text(), QStringLiteral("wise!"));

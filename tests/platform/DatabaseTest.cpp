@@ -33,6 +33,8 @@ INSERT INTO SavedQueries VALUES ('GetHolding',
     WHERE Holdings.UserID = :Select_User AND Holdings.Thing = :Thing', 'Holdings', 'HoldingID');
 INSERT INTO SavedQueryParameters VALUES ('GetHolding', 'Select User', 'Long'), ('GetHolding', 'Thing', 'Text');
 INSERT INTO SavedQueries VALUES ('AllThings', 'SELECT Name AS "Things.Name", Amount FROM Things ORDER BY Amount', NULL, NULL);
+INSERT INTO SavedQueries VALUES ('Forget User', 'DELETE FROM Holdings WHERE UserID = :User_ID', NULL, NULL);
+INSERT INTO SavedQueryParameters VALUES ('Forget User', 'User ID', 'Long');
 INSERT INTO SavedQueries VALUES ('End Transaction', 'COMMIT', NULL, NULL);
 )sql";
 

@@ -1,3 +1,4 @@
+#include "FailureOf.h"
 #include "game/GameState.h"
 #include "platform/base/Failure.h"
 #include "world/Condition.h"
@@ -46,6 +47,14 @@ TEST_F(Conditions, EveryLineMustHoldAndTheFirstFalseOneEndsTheTest) {
   EXPECT_FALSE(holds("tap state 0\r\nsofa state 1"));  // the unknown sofa is never looked up
   for (const char* broken : {"", "tap", "tap state", "tap state 1\r\nsofa state 1"})
     EXPECT_THROW(holds(broken), RuntimeFailure) << broken;
+}
+
+// Line positions are 16-bit: a next line may start at 32767, not past it. A last line may be longer.
+TEST_F(Conditions, ALineThatWouldStartPast32767IsAnOverflow) {
+  const auto padded = [](qsizetype length) { return QStringLiteral("tap state 1").leftJustified(length) + QStringLiteral("\r\n"); };
+  EXPECT_EQ(EvalConditions(padded(32764) + QStringLiteral("tap state 1")), kTrue);
+  EXPECT_EQ(failureOf([&] { EvalConditions(padded(32765) + QStringLiteral("tap state 1")); }), Failure::Overflow);
+  EXPECT_EQ(EvalConditions(QStringLiteral("tap state 1").leftJustified(40000)), kTrue);
 }
 
 }  // namespace

@@ -92,6 +92,19 @@ TEST_F(LineSplitting, CarriageReturnAloneCostsNextCharacterAndLineFeedAloneEndsN
   EXPECT_EQ(asked, QStringList({"seen a b\nif"}));
 }
 
+// Positions are 16-bit: from 32767 characters on, the script fails where the last line's end lies,
+// after every line before it has run.
+TEST_F(LineSplitting, ScriptOf32767CharactersOverflows) {
+  const auto scriptOfLength = [](int length) {
+    const QString head = QStringLiteral("startset early\r\n"), tail = QStringLiteral("\r\nstartset late");
+    return head + QString(length - head.size() - tail.size(), u'x') + tail;
+  };
+  RunScript(scriptOfLength(32766));
+  EXPECT_EQ(StartSetFile, "late");
+  EXPECT_EQ(failureOf(scriptOfLength(32767)), Failure::Overflow);
+  EXPECT_EQ(StartSetFile, "early");
+}
+
 TEST_F(WordSplitting, OnlySingleBlanksSeparateAndEveryWordIsLowerCased) {
   RunScriptLine(QStringLiteral("IF Seen  Kitchen\tTap extra"));
   RunScriptLine(QStringLiteral("if seen a"));

@@ -119,6 +119,8 @@ TEST_F(MediaDeviceTest, CommandsThatCannotWorkFailAndHarmlessOnesDont) {
     CloseAudioOutput();
     EXPECT_EQ(failureOf(m_device, "open"), Failure::DeviceUnavailable);
   }
+  m_device.DeviceType = QStringLiteral("CDAudio");
+  EXPECT_EQ(failureOf(m_device, "open"), Failure::DeviceUnavailable);
   EXPECT_EQ(m_device.Mode(), kModeNotOpen);
 
   // With a driver again, and the name in the game's form, it opens.

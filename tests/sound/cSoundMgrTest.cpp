@@ -69,8 +69,10 @@ TEST_F(SoundManager, UnloadSoundsLeavesTheLoadedDevicesOpenForTheNextLoad) {
   EXPECT_TRUE(SoundMgr().PlayLocal(QStringLiteral("c"), 0, false));
 }
 
-// When the program ends, the manager's last act unloads the sounds and closes the music.
-TEST_F(SoundManager, ItsLastActSilencesEverything) {
+// The manager stands before Init with the stereo's base at 1. When the program ends, its last act
+// unloads the sounds and closes the music.
+TEST_F(SoundManager, ItStartsWithPanBaseOneAndItsLastActSilencesEverything) {
+  EXPECT_EQ(cSoundMgr().PanBase, 1);
   m_ui.queueAnswer(Answer::Cancel);  // an unexpected CD prompt ends the test instead of asking forever
   load(QStringLiteral("a.wav"), QStringLiteral("A"), 100);
   m_folder.write(QStringLiteral("Audio/ROCK1.mid"), noteMidi(600));

@@ -123,3 +123,11 @@ TEST_F(StartUp, PanBaseZeroIsUsedUntilSetupIsConfirmed) {
   InitProgram();
   EXPECT_EQ(SoundMgr().PanBase, -1200);
 }
+
+TEST_F(StartUp, PanBaseThatIsNoSixteenBitNumberStopsTheProgram) {
+  WorkingDirectory here(tree.path());
+  tree.write(QStringLiteral("Graphics/Menu.bmp"));
+  ScriptedUi ui;
+  storeSetting(QStringLiteral("PanBase"), QStringLiteral("40000"));
+  EXPECT_THROW(InitProgram(), RuntimeFailure);
+}

@@ -30,6 +30,15 @@ TEST(HitTest, EdgesAreOutsideAndTheLowestIndexWinsEvenWhenDisabled) {
   EXPECT_EQ(makeShot(QStringLiteral("Empty"))->CheckHotSpots(20, 30), -1);
 }
 
+// Both far edges are 16-bit sums, taken for every hotspot looked at, wherever the point is.
+TEST(HitTest, AnEdgePast32767IsAnOverflow) {
+  for (const auto& spot : {placed(QStringLiteral("Wide"), 32700, 0, 68, 10), placed(QStringLiteral("Tall"), 0, 32700, 10, 68)}) {
+    auto shot = makeShot(QStringLiteral("Porch"), {spot});
+    EXPECT_EQ(failureOf([&] { shot->CheckHotSpots(5, 5); }), Failure::Overflow) << spot->Name.toStdString();
+  }
+  EXPECT_EQ(makeShot(QStringLiteral("Porch"), {placed(QStringLiteral("Edge"), 32700, 0, 67, 10)})->CheckHotSpots(32766, 5), 0);
+}
+
 TEST(HotSpotList, AddKeepsTheDefaultsAndDeleteMovesTheLastIntoTheGap) {
   auto shot = makeShot(QStringLiteral("Porch"), {placed(QStringLiteral("A"), 0, 0, 50, 50), placed(QStringLiteral("B"), 0, 0, 50, 50)});
   EXPECT_EQ(shot->AddHotSpot(5, 6, 7, 8), 2);
@@ -53,6 +62,19 @@ TEST(HotSpotList, AddKeepsTheDefaultsAndDeleteMovesTheLastIntoTheGap) {
   shot->DeleteHotSpot(0);
   EXPECT_FALSE(shot->HotSpot(0));
   EXPECT_EQ(failureOf([&] { shot->DeleteHotSpot(0); }), Failure::SubscriptOutOfRange);
+}
+
+// A delete at or past the count but inside the slots moves the last hotspot there, out of the count.
+TEST(HotSpotList, DeletingTheTopSlotTakesTheLastOutOfTheCount) {
+  auto shot = makeShot(QStringLiteral("Porch"), {placed(QStringLiteral("A"), 0, 0, 50, 50), placed(QStringLiteral("B"), 0, 0, 50, 50)});
+  EXPECT_EQ(failureOf([&] { shot->DeleteHotSpot(3); }), Failure::SubscriptOutOfRange);
+  EXPECT_EQ(shot->NumHotSpots, 2);
+  shot->DeleteHotSpot(2);
+  EXPECT_EQ(shot->NumHotSpots, 1);
+  EXPECT_FALSE(shot->HotSpot(1));
+  EXPECT_EQ(shot->HotSpot(2)->Name, QStringLiteral("B"));
+  EXPECT_EQ(shot->CheckHotSpots(10, 10), 0);
+  EXPECT_EQ(savedBytes(*shot).size(), cShot::kEmptyRecordSize + cHotSpot::kEmptyRecordSize);
 }
 
 TEST(HotSpotLines, ReadingPastTheEmptyLastLineFailsAndWritingPastTheCountIsIgnored) {

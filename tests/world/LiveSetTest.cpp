@@ -83,5 +83,22 @@ TEST(SetShots, DeleteShiftsTheRestDownAndTheLastOneClearsTheCurrentShot) {
   EXPECT_FALSE(CurrentShot);
 }
 
+// The shots run from 0 to nNumShots, whose slot stays empty. A delete at or past it moves nothing,
+// yet the count falls and the resize leaves the last shot in the new top slot, out of the count.
+TEST(SetShots, DeletingAtOrPastTheTopTakesTheLastShotOutOfTheCount) {
+  cSet set = makeSet(QStringLiteral("S"), {makeShot(QStringLiteral("A")), makeShot(QStringLiteral("B"))});
+  EXPECT_FALSE(set.Shot(2));
+  EXPECT_EQ(failureOf([&] { set.Shot(3); }), Failure::SubscriptOutOfRange);
+  set.DeleteShot(7);
+  EXPECT_EQ(set.nNumShots, 1);
+  EXPECT_EQ(set.Shot(1)->sName, QStringLiteral("B"));
+  EXPECT_EQ(failureOf([&] { set.Shot(2); }), Failure::SubscriptOutOfRange);
+  EXPECT_EQ(savedBytes(set).size(), cSet::kEmptyRecordSize + cShot::kEmptyRecordSize);
+  // With no shots left the count falls below 0, where no array can be sized.
+  set.DeleteShot(0);
+  EXPECT_EQ(failureOf([&] { set.DeleteShot(0); }), Failure::SubscriptOutOfRange);
+  EXPECT_EQ(set.nNumShots, -1);
+}
+
 }  // namespace
 }  // namespace fh::test

@@ -26,5 +26,13 @@ TEST(ScoreFrom, IsNotCappedAndNeedsItsBaselines) {
   EXPECT_EQ(ScoreFrom({}, {0, 0}), 1);
 }
 
+// The 16-bit score is taken after the 1 is added: 32767 + 1 overflows, -32769 + 1 doesn't.
+TEST(ScoreFrom, IsNarrowedToSixteenBitsAfterTheOneIsAdded) {
+  const ScoreBaselines baselines{1, 99};  // the object sum counts as it stands
+  EXPECT_EQ(ScoreFrom({88557, 0}, baselines), 32767);
+  EXPECT_EQ(failureOf([&] { ScoreFrom({88560, 0}, baselines); }), Failure::Overflow);
+  EXPECT_EQ(ScoreFrom({-88565, 0}, baselines), -32768);
+}
+
 }  // namespace
 }  // namespace fh::test

@@ -217,7 +217,9 @@ TEST(FhartCommandLine, FoldersAndArgumentsAreChecked) {
   const FhartRun missing = fhart({QStringLiteral("render"), folder.at(QStringLiteral("gone")), folder.at(QStringLiteral("out"))});
   EXPECT_EQ(missing.code, 2);
   EXPECT_TRUE(missing.err.contains(QStringLiteral("there is no folder"))) << missing.err.toStdString();
+  EXPECT_EQ(fhart({QStringLiteral("preview"), folder.at(QStringLiteral("gone.svg")), folder.at(QStringLiteral("x.png"))}).code, 2);
   EXPECT_EQ(fhart({QStringLiteral("render"), folder.at(QStringLiteral("empty"))}).code, 2);
+  EXPECT_EQ(fhart({QStringLiteral("render"), QStringLiteral("--palette-picture")}).code, 2);
   EXPECT_EQ(fhart({QStringLiteral("draw")}).code, 2);
   EXPECT_EQ(fhart({QStringLiteral("--help")}).code, 0);
 }

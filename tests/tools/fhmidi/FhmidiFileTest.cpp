@@ -68,6 +68,18 @@ TEST(MidiFile, NotesUseRunningStatusAndEndWithVelocityZero) {
   EXPECT_EQ(summary.tracks[2].notesByChannel.at(10), 12);
 }
 
+TEST(MidiFile, ReaderRefusesBrokenFiles) {
+  const QByteArray file = writeMidiFile(parseMusicSource(kTwoTracks, QStringLiteral("t.txt")));
+  EXPECT_THROW(readMidiFile(file.left(file.size() - 1)), fhmidi::MidiFormatError);
+  EXPECT_THROW(readMidiFile(QByteArray("RIFF") + file.mid(4)), fhmidi::MidiFormatError);
+  // A track without its end-of-track event: cut the last event and mend the chunk's length.
+  QByteArray unended = file.left(file.size() - 4);
+  const auto [start, length] = trackChunks(file).back();
+  const quint32 shorter = length - 4;
+  for (int i = 0; i < 4; ++i) unended[start - 4 + i] = char((shorter >> (24 - 8 * i)) & 0xFF);
+  EXPECT_THROW(readMidiFile(unended), fhmidi::MidiFormatError);
+}
+
 TEST(MidiFile, LengthFollowsTheTempoMap) {
   // Two bars at 120 (4 s), then two bars at 60 (8 s).
   const QString source = QStringLiteral(

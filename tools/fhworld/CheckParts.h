@@ -28,7 +28,8 @@ void checkWayToWin(CheckContext& context, const std::map<QString, ScriptEffects>
 // Containers and their objects, sprites and their looks, backdrops, texts, sounds, questions.
 void checkContainers(CheckContext& context);
 void checkPictures(CheckContext& context);
-void checkFixesShown(CheckContext& context);
+// Whether every judged fixture looks different when it is put right, on the shot where that is done.
+void checkFixesShown(CheckContext& context, const std::map<QString, ScriptEffects>& effectsByShot);
 void checkTexts(CheckContext& context);
 void checkQuestions(CheckContext& context);
 void checkSoundsAndFixedFiles(CheckContext& context);

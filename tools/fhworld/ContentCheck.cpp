@@ -115,28 +115,53 @@ void checkPictures(CheckContext& context) {
   }
 }
 
-// A fix the student can't see in the house is no fix to a child: every judged container has a
-// backdrop row or a sprite look that depends on it.
-void checkFixesShown(CheckContext& context) {
-  const WorldData& data = context.world.data;
-  std::set<QString> shown;
-  for (const BackdropRow& backdrop : data.backdrops) shown.insert(backdrop.container.toLower());
-  for (const SpriteRow& sprite : data.sprites) {
-    for (const CelRow& look : sprite.looks) {
-      for (const QString& line : look.condition.split(QStringLiteral("\r\n"))) {
-        shown.insert(line.section(QLatin1Char(' '), 0, 0, QString::SectionSkipEmpty).toLower());
-      }
+namespace {
+
+// The shots whose scripts put the container right, by lower-cased name: they switch it, set it, open
+// its choice screen or, for the computer's own containers, open the screen that sets it.
+std::set<QString> shotsThatFix(const QString& key, const std::map<QString, ScriptEffects>& effectsByShot) {
+  std::set<QString> shots;
+  for (const auto& [shot, effects] : effectsByShot) {
+    if (effects.containersToggled.count(key) || effects.statesSet.count(key) || effects.containersShown.count(key) ||
+        effects.computerWords.count(key)) {
+      shots.insert(shot);
     }
   }
-  for (const auto& [key, container] : data.containers) {
-    if (shown.count(key.toLower())) continue;
-    if (container.judgedByState()) {
-      context.problems.add(QStringLiteral("container %1").arg(container.name),
-                           QStringLiteral("its states all look the same: no backdrop row or sprite look depends on it"));
-    } else if (container.judgedByObject()) {
-      context.problems.add(QStringLiteral("container %1").arg(container.name),
-                           QStringLiteral("its objects all look the same: no backdrop row or sprite look depends on it"));
+  return shots;
+}
+
+bool conditionNames(const QString& condition, const QString& key) {
+  for (const QString& line : condition.split(QStringLiteral("\r\n"))) {
+    if (line.section(QLatin1Char(' '), 0, 0, QString::SectionSkipEmpty).toLower() == key) return true;
+  }
+  return false;
+}
+
+}  // namespace
+
+// A fix the student can't see in the house is no fix to a child: every judged container has a
+// backdrop row or a sprite look that depends on it on a shot where it is put right. A container that
+// no script puts right is told by the way to win; any shot will do for it here.
+void checkFixesShown(CheckContext& context, const std::map<QString, ScriptEffects>& effectsByShot) {
+  const WorldIndex& world = context.world;
+  for (const auto& [key, container] : world.data.containers) {
+    if (!container.judgedByState() && !container.judgedByObject()) continue;
+    const std::set<QString> fixedOn = shotsThatFix(key, effectsByShot);
+    const auto onFixShot = [&](const QString& shot) { return fixedOn.empty() || fixedOn.count(shot.toLower()) > 0; };
+    bool shown = false;
+    for (const BackdropRow& backdrop : world.data.backdrops) {
+      shown = shown || (backdrop.container.toLower() == key && onFixShot(backdrop.shot));
     }
+    for (const SpriteRow& sprite : world.data.sprites) {
+      for (const CelRow& look : sprite.looks) shown = shown || (onFixShot(sprite.shot) && conditionNames(look.condition, key));
+    }
+    if (shown) continue;
+    QStringList shotNames;
+    for (const QString& shot : fixedOn) shotNames << (world.shot(shot) ? world.shot(shot)->sName : shot);
+    context.problems.add(QStringLiteral("container %1").arg(container.name),
+                         QStringLiteral("its %1 all look the same%2: no backdrop row or sprite look there depends on it")
+                             .arg(container.judgedByState() ? QStringLiteral("states") : QStringLiteral("objects"),
+                                  shotNames.isEmpty() ? QString() : QStringLiteral(" on ") + shotNames.join(QStringLiteral(" or "))));
   }
 }
 

@@ -86,10 +86,14 @@ CheckResult checkWorld(const QString& databaseFolder, const QString& resourceFol
       world.useSet(std::move(set));
     }
   }
-  if (world.set) checkWayToWin(context, checkShots(context, scripts));
+  std::map<QString, ScriptEffects> effectsByShot;
+  if (world.set) {
+    effectsByShot = checkShots(context, scripts);
+    checkWayToWin(context, effectsByShot);
+  }
   checkContainers(context);
   checkPictures(context);
-  checkFixesShown(context);
+  checkFixesShown(context, effectsByShot);
   checkTexts(context);
   checkQuestions(context);
   checkSoundsAndFixedFiles(context);

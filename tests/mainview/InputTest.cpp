@@ -96,6 +96,9 @@ class PlayInput : public LiveWorld {
     send(button, QEvent::MouseButtonRelease, {5, 5}, which);
   }
   void tick() { view().GameClock_Timer(); }
+  // The pointer comes to rest there, and the tick's hover test sees it.
+  void hover(int x, int y) { moveTo(x, y); tick(); }
+  void clickOn(int x, int y) { hover(x, y); press(x, y); }
 
   int state(const char* container) { return CurrentSet->GetContainer(QString::fromLatin1(container)).CurrentState; }
   int cursor() { return view().DisplayView->MousePointer(); }
@@ -113,7 +116,6 @@ class LockHolder {
  public:
   LockHolder(const QString& file, int milliseconds) {
     std::promise<void> locked;
-    std::future<void> taken = locked.get_future();
     m_thread = std::thread([file, milliseconds, &locked] {
       {
         QSqlDatabase db = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), QStringLiteral("lock holder"));
@@ -127,7 +129,7 @@ class LockHolder {
       }
       QSqlDatabase::removeDatabase(QStringLiteral("lock holder"));
     });
-    taken.wait();
+    locked.get_future().wait();
   }
   ~LockHolder() { m_thread.join(); }
 
@@ -145,26 +147,22 @@ TEST_F(ClickRoad, TheHoverTestWaitsForTheTickAndRunsTheRolloverOncePerEntry) {
 
   silence();
   view().TextWindow->setText(QStringLiteral("unchanged"));
-  moveTo(40, 40);
-  tick();
+  hover(40, 40);
   EXPECT_EQ(text(), QStringLiteral("unchanged"));
   EXPECT_EQ(sounding(), -1);
 
   // Straight into the door: the tap goes out, giving back the last text, and the door lights.
-  moveTo(120, 100);
-  tick();
+  hover(120, 100);
   EXPECT_EQ(view().CurrentHotSpotIndex, 1);
   EXPECT_EQ(text(), QStringLiteral("the door"));
-  moveTo(500, 300);
-  tick();
+  hover(500, 300);
   EXPECT_EQ(view().CurrentHotSpotIndex, -1);
   EXPECT_EQ(cursor(), 99);
   EXPECT_EQ(text(), QStringLiteral("the door"));  // a free text is its own last text
 }
 
 TEST_F(ClickRoad, AClickFiresTheLitHotspotAndTheNewShotLightsInSilence) {
-  moveTo(120, 50);
-  tick();
+  hover(120, 50);
   silence();
   press(120, 50);
   EXPECT_EQ(CurrentShot->sName, QStringLiteral("Hall"));
@@ -189,17 +187,13 @@ TEST_F(ClickRoad, AClickBeforeTheFirstTickOrWithAnotherButtonDoesNothing) {
 
 // A quick second click is a double click, whose second press the picture doesn't report.
 TEST_F(ClickRoad, ADoubleClickFiresOnce) {
-  moveTo(30, 30);
-  tick();
-  press(30, 30);
+  clickOn(30, 30);
   send(view().DisplayView, QEvent::MouseButtonDblClick, {30, 30}, Qt::LeftButton);
   EXPECT_EQ(state("tap"), 0);
 }
 
 TEST_F(ClickRoad, AFailingLineEndsTheScriptSilentlyAndTheNextTickLightsAgain) {
-  moveTo(230, 30);
-  tick();
-  press(230, 30);
+  clickOn(230, 30);
   EXPECT_EQ(state("lamp"), 0);
   EXPECT_EQ(state("tap"), 1);
   EXPECT_EQ(view().CurrentHotSpotIndex, -1);
@@ -217,9 +211,7 @@ TEST_F(ClickRoad, TheNetsSwallowAnyFailureButLetTheProgramsEndThrough) {
   });
   const std::shared_ptr<cHotSpot> tap = CurrentShot->HotSpot(0);
   tap->SetScriptLine(0, QStringLiteral("if tap state 1"));
-  moveTo(30, 30);
-  tick();
-  press(30, 30);
+  clickOn(30, 30);
   EXPECT_EQ(view().CurrentHotSpotIndex, -1);
   tap->Rollover = QStringLiteral("if tap state 1");
   tick();
@@ -233,9 +225,7 @@ TEST_F(ClickRoad, TheNetsSwallowAnyFailureButLetTheProgramsEndThrough) {
 
 // The film can't be shown: the line fails there, like any other failing line.
 TEST_F(ClickRoad, TheTelevisionShowsTheCaptionAndLosesTheLinesBehindIt) {
-  moveTo(330, 30);
-  tick();
-  press(330, 30);
+  clickOn(330, 30);
   EXPECT_EQ(TVChannel, 1);
   EXPECT_EQ(text(), QStringLiteral("You are watching The Fernhollow Video"));
   EXPECT_EQ(state("tap"), 1);
@@ -262,8 +252,7 @@ TEST_F(ClickRoad, TheFrameIsHeardInPicturePixelsAndARightReleaseWaitsForTheLeft)
 // A write waits a while for another program's; one that can't be made is told, and the house in
 // memory goes back to what the database holds.
 TEST_F(SavingUnderAClick, AWriteWaitsForABriefLockAndAFailedOneIsToldAndUndone) {
-  moveTo(30, 30);
-  tick();
+  hover(30, 30);
   {
     LockHolder brief(data.at(QStringLiteral("Fernhollow.mdb")), 1000);
     press(30, 30);
@@ -356,12 +345,11 @@ TEST_F(FrameButtons, TheStereoOpensTheMusicOverTheHouseAndKeepsItsLabel) {
 TEST_F(FrameButtons, OnlyALowerCaseSOpensTheSetup) {
   int setups = 0;
   screens().setup = [&setups] { ++setups; };
-  QKeyEvent capital(QEvent::KeyPress, Qt::Key_S, Qt::ShiftModifier, QStringLiteral("S"));
-  QCoreApplication::sendEvent(&view(), &capital);
-  EXPECT_EQ(setups, 0);
-  QKeyEvent small(QEvent::KeyPress, Qt::Key_S, Qt::NoModifier, QStringLiteral("s"));
-  QCoreApplication::sendEvent(&view(), &small);
-  EXPECT_EQ(setups, 1);
+  for (const auto& [modifier, typed, opened] : {std::tuple{Qt::ShiftModifier, "S", 0}, {Qt::NoModifier, "s", 1}}) {
+    QKeyEvent key(QEvent::KeyPress, Qt::Key_S, modifier, QString::fromLatin1(typed));
+    QCoreApplication::sendEvent(&view(), &key);
+    EXPECT_EQ(setups, opened) << typed;
+  }
   screens().setup = nullptr;
 }
 

@@ -211,11 +211,10 @@ TEST_F(MainView, TextsWrittenToTheHiddenMirrorsShowInScoreAndPlayTimeAlone) {
 }
 
 TEST(ElapsedTimeText, HoursHaveNoLeadingZeroAndTheClockWrapsAtADay) {
-  EXPECT_EQ(ElapsedTimeText(0), QStringLiteral("0:00:00"));
-  EXPECT_EQ(ElapsedTimeText(static_cast<float>(5.0 / 24)), QStringLiteral("5:00:00"));
   // A count a hair short of a second shows that second.
-  EXPECT_EQ(ElapsedTimeText(static_cast<float>((61 - 0.001) / 86400)), QStringLiteral("0:01:01"));
-  EXPECT_EQ(ElapsedTimeText(static_cast<float>(13.0 / 24 + 7.0 / 1440 + 9.0 / 86400)), QStringLiteral("13:07:09"));
+  const std::pair<double, const char*> cases[] = {
+      {0, "0:00:00"}, {5.0 / 24, "5:00:00"}, {(61 - 0.001) / 86400, "0:01:01"}, {13.0 / 24 + 7.0 / 1440 + 9.0 / 86400, "13:07:09"}};
+  for (const auto& [days, text] : cases) EXPECT_EQ(ElapsedTimeText(static_cast<float>(days)), QLatin1String(text)) << text;
   EXPECT_EQ(ElapsedTimeText(1.0f + 2.0f / 86400.0f), QStringLiteral("0:00:02"));
 }
 

@@ -17,47 +17,33 @@ TEST(Int16, ArithmeticOverflowsAtTheSixteenBitLimits) {
 }
 
 TEST(CIntConversion, RoundsHalfToEven) {
-  EXPECT_EQ(CInt(1.5), 2);
-  EXPECT_EQ(CInt(2.5), 2);
-  EXPECT_EQ(CInt(-2.5), -2);
-  EXPECT_EQ(CInt(2.5001), 3);
-  EXPECT_EQ(CInt(32767.4), 32767);
+  const std::pair<double, int> cases[] = {{1.5, 2}, {2.5, 2}, {-2.5, -2}, {2.5001, 3}, {32767.4, 32767}, {-32768.4, -32768}};
+  for (const auto& [value, rounded] : cases) EXPECT_EQ(CInt(value), rounded) << value;
   EXPECT_EQ(failureOf([] { CInt(32767.5); }), Failure::Overflow);
-  EXPECT_EQ(CInt(-32768.4), -32768);
 }
 
 TEST(CIntConversion, TextMustBeANumberInRange) {
   EXPECT_EQ(CInt(QStringLiteral(" 12 ")), 12);
   EXPECT_EQ(CInt(QStringLiteral("2.5")), 2);
   EXPECT_EQ(CInt(QStringLiteral("&H10")), 16);
-  EXPECT_EQ(failureOf([] { CInt(QStringLiteral("")); }), Failure::TypeMismatch);
-  EXPECT_EQ(failureOf([] { CInt(QStringLiteral("12abc")); }), Failure::TypeMismatch);
+  for (const char* text : {"", "12abc"}) EXPECT_EQ(failureOf([text] { CInt(QString::fromLatin1(text)); }), Failure::TypeMismatch) << text;
   EXPECT_EQ(failureOf([] { CInt(QStringLiteral("40000")); }), Failure::Overflow);
 }
 
 TEST(ValParsing, TakesTheLeadingNumberOnly) {
-  EXPECT_EQ(Val(QStringLiteral("1abc")), 1);
-  EXPECT_EQ(Val(QStringLiteral("abc")), 0);
-  EXPECT_EQ(Val(QStringLiteral("  -3.5kg")), -3.5);
-  EXPECT_EQ(Val(QStringLiteral("1 2 3")), 123);  // blanks inside a number are passed over
-  EXPECT_EQ(Val(QStringLiteral("2e3x")), 2000);
-  EXPECT_EQ(Val(QStringLiteral("&HFF")), 255);
-  EXPECT_EQ(Val(QStringLiteral("&O17")), 15);
-  EXPECT_EQ(Val(QStringLiteral("-")), 0);
+  // Blanks inside a number are passed over.
+  const std::pair<const char*, double> cases[] = {{"1abc", 1},    {"abc", 0},     {"  -3.5kg", -3.5}, {"1 2 3", 123},
+                                                  {"2e3x", 2000}, {"&HFF", 255}, {"&O17", 15},       {"-", 0}};
+  for (const auto& [text, value] : cases) EXPECT_EQ(Val(QString::fromLatin1(text)), value) << text;
 }
 
 TEST(NumberPatterns, ThousandsPatternRoundsAndShowsNothingForZero) {
-  EXPECT_EQ(formatThousands(0), QString());
-  EXPECT_EQ(formatThousands(0.4), QString());
-  EXPECT_EQ(formatThousands(1000), QStringLiteral("1,000"));
-  EXPECT_EQ(formatThousands(1234567.5), QStringLiteral("1,234,568"));
-  EXPECT_EQ(formatThousands(-4321), QStringLiteral("-4,321"));
+  const std::pair<double, const char*> cases[] = {{0, ""}, {0.4, ""}, {1000, "1,000"}, {1234567.5, "1,234,568"}, {-4321, "-4,321"}};
+  for (const auto& [value, text] : cases) EXPECT_EQ(formatThousands(value), QString::fromLatin1(text)) << value;
 }
 
 TEST(NumberPatterns, ClockShowsTimeOfDayAndWrapsAtTwentyFourHours) {
-  EXPECT_EQ(formatClock(0), QStringLiteral("0:00:00"));
-  EXPECT_EQ(formatClock((3600.0 * 13 + 60 * 5 + 9) / 86400), QStringLiteral("13:05:09"));
-  EXPECT_EQ(formatClock(1.0), QStringLiteral("0:00:00"));
-  EXPECT_EQ(formatClock(1.0 + 61.0 / 86400), QStringLiteral("0:01:01"));
-  EXPECT_EQ(formatClock(86399.6 / 86400), QStringLiteral("0:00:00"));
+  const std::pair<double, const char*> cases[] = {
+      {0, "0:00:00"}, {(3600.0 * 13 + 60 * 5 + 9) / 86400, "13:05:09"}, {1.0, "0:00:00"}, {1.0 + 61.0 / 86400, "0:01:01"}, {86399.6 / 86400, "0:00:00"}};
+  for (const auto& [days, text] : cases) EXPECT_EQ(formatClock(days), QString::fromLatin1(text)) << days;
 }

@@ -58,14 +58,12 @@ TEST_F(ArgumentRules, TooFewWordsFailAtTheFirstWordThatIsNotThere) {
 TEST_F(ArgumentRules, ExtraWordsAreIgnoredAndALeftOutLastWordReadsEmpty) {
   run("setcontainer tap 0 refresh and more");
   EXPECT_EQ(tap(), std::make_pair(0, 0));
-  run("showdialogstring Hello");
-  EXPECT_EQ(text(), QStringLiteral("hello"));
-  run("showdialogstring The TAP drips");
-  EXPECT_EQ(text(), QStringLiteral("the tap"));
-  run("showdialog hello");
-  EXPECT_EQ(text(), QStringLiteral("Hello there."));
-  run("showdialog  hello");
-  EXPECT_EQ(text(), QString());
+  const std::pair<const char*, const char*> dialogs[] = {
+      {"showdialogstring Hello", "hello"}, {"showdialogstring The TAP drips", "the tap"}, {"showdialog hello", "Hello there."}, {"showdialog  hello", ""}};
+  for (const auto& [line, dialog] : dialogs) {
+    run(line);
+    EXPECT_EQ(text(), QLatin1String(dialog)) << line;
+  }
   run("goto shot");
   run("goto  shot hall");
   EXPECT_EQ(CurrentSet->sName, QStringLiteral("Commands"));
@@ -144,9 +142,7 @@ TEST_F(DeviceCommands, SpritesStartAndStopByNameAndUnknownNamesDoNothing) {
 // 2 is no screen's number, so nothing is there to shut down: the words alone are seen at work.
 TEST_F(DeviceCommands, OnlyTheClosingComputerWordsChangeTheOpenScreen) {
   ActiveComputerScreen = 2;
-  run("computer");
-  run("computer chalkboard");
-  run("computer print");
+  for (const char* line : {"computer", "computer chalkboard", "computer print"}) run(line);
   EXPECT_EQ(ActiveComputerScreen, 2);
   run("computer shutdown");
   EXPECT_EQ(ActiveComputerScreen, 0);

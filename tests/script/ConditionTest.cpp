@@ -24,21 +24,14 @@ class Conditions : public testing::Test {
 };
 
 TEST_F(Conditions, StateComparesTheNumberTheValueStartsWith) {
-  EXPECT_TRUE(holds("TAP state 1st"));
-  EXPECT_FALSE(holds("tap state 0"));
-  EXPECT_TRUE(holds("vase state none"));
-  EXPECT_TRUE(holds("vase state "));
-  EXPECT_TRUE(holds("tap STATE 1"));
-  EXPECT_FALSE(holds("tap is 1"));
+  for (const char* holding : {"TAP state 1st", "vase state none", "vase state ", "tap STATE 1"}) EXPECT_TRUE(holds(holding)) << holding;
+  for (const char* failing : {"tap state 0", "tap is 1"}) EXPECT_FALSE(holds(failing)) << failing;
 }
 
 // Script words carry no blanks: only the object loses its blanks, never the value.
 TEST_F(Conditions, HoldsComparesTheObjectWithoutBlanksInAnyCase) {
-  EXPECT_TRUE(holds("lamp Holds LEDBULB"));
-  EXPECT_FALSE(holds("lamp holds led bulb"));
-  EXPECT_FALSE(holds("lamp !holds ledbulb"));
-  EXPECT_TRUE(holds("lamp !HOLDS oldbulb"));
-  EXPECT_TRUE(holds("vase holds "));
+  for (const char* holding : {"lamp Holds LEDBULB", "lamp !HOLDS oldbulb", "vase holds "}) EXPECT_TRUE(holds(holding)) << holding;
+  for (const char* failing : {"lamp holds led bulb", "lamp !holds ledbulb"}) EXPECT_FALSE(holds(failing)) << failing;
 }
 
 TEST_F(Conditions, EveryLineMustHoldAndTheFirstFalseOneEndsTheTest) {

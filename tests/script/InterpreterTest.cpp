@@ -106,11 +106,8 @@ TEST_F(LineSplitting, ScriptOf32767CharactersOverflows) {
 }
 
 TEST_F(WordSplitting, OnlySingleBlanksSeparateAndEveryWordIsLowerCased) {
-  RunScriptLine(QStringLiteral("IF Seen  Kitchen\tTap extra"));
-  RunScriptLine(QStringLiteral("if seen a"));
-  RunScriptLine(QStringLiteral("if\tseen a b"));
-  RunScriptLine(QStringLiteral(" if seen a b"));
-  RunScriptLine(QStringLiteral("StartSet Fernhollow.SET"));
+  for (const char* line : {"IF Seen  Kitchen\tTap extra", "if seen a", "if\tseen a b", " if seen a b", "StartSet Fernhollow.SET"})
+    RunScriptLine(QString::fromLatin1(line));
   EXPECT_EQ(asked, QStringList({"seen  kitchen\ttap", "seen a "}));
   EXPECT_EQ(StartSetFile, "fernhollow.set");
 }

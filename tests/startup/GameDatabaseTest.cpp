@@ -35,9 +35,10 @@ class GameDatabase : public testing::Test {
     for (const auto& [name, value] : parameters) saved.SetParameter(name, value);
     return saved.OpenRecordset();
   }
-  void execute(const QString& query, const QString& parameter, int userId) {
-    QueryDef action = db->QueryDefs(query);
-    action.SetParameter(parameter, userId);
+  // The player's rows, as a new player's are made.
+  void makeRows(int userId) {
+    QueryDef action = db->QueryDefs(QStringLiteral("Make New User"));
+    action.SetParameter(QStringLiteral("User ID"), userId);
     action.Execute();
   }
   double number(const QString& query, const QString& column, int userId = -1) {
@@ -48,8 +49,8 @@ class GameDatabase : public testing::Test {
     return {number(QStringLiteral("SelectionScore"), QStringLiteral("SumOfADR"), userId),
             number(QStringLiteral("StateScore"), QStringLiteral("CountOfCurrentState"), userId)};
   }
-  int rowsOf(const QString& table, const QString& userColumn, int userId) {
-    return db->OpenRecordset(QStringLiteral("SELECT * FROM %1 WHERE \"%2\" = ?").arg(table, userColumn), {userId}).RecordCount();
+  int containerRows(int userId) {
+    return db->OpenRecordset(QStringLiteral("SELECT * FROM UserContainers WHERE \"User ID\" = ?"), {userId}).RecordCount();
   }
   QStringList column(Recordset rs, const QString& name) {
     QStringList values;
@@ -80,10 +81,10 @@ TEST_F(GameDatabase, NewUserStartsAtTheBaselinesAndMakingRowsTwiceAddsNothing) {
   users.SetField(QStringLiteral("Password"), QStringLiteral("x"));
   users.SetField(QStringLiteral("Current Shot"), 0);
   users.Update();
-  execute(QStringLiteral("Make New User"), QStringLiteral("User ID"), id);
-  EXPECT_EQ(rowsOf(QStringLiteral("UserContainers"), QStringLiteral("User ID"), id), 5);
-  execute(QStringLiteral("Make New User"), QStringLiteral("User ID"), id);
-  EXPECT_EQ(rowsOf(QStringLiteral("UserContainers"), QStringLiteral("User ID"), id), 5);
+  makeRows(id);
+  EXPECT_EQ(containerRows(id), 5);
+  makeRows(id);
+  EXPECT_EQ(containerRows(id), 5);
   EXPECT_EQ(scores(id), std::make_pair(117.0, 3.0));
 
   Recordset zoe = db->OpenRecordset(QStringLiteral("SELECT * FROM Users WHERE ID = ?"), {id});
@@ -91,23 +92,25 @@ TEST_F(GameDatabase, NewUserStartsAtTheBaselinesAndMakingRowsTwiceAddsNothing) {
   EXPECT_FALSE(zoe.Field(QStringLiteral("HasWonGame")).toBool());
 
   // A player kept from before a container was added gets just that container's row.
-  execute(QStringLiteral("Make New User"), QStringLiteral("User ID"), 1);
-  EXPECT_EQ(rowsOf(QStringLiteral("UserContainers"), QStringLiteral("User ID"), 1), 5);
+  makeRows(1);
+  EXPECT_EQ(containerRows(1), 5);
 }
 
 // The removal's steps are seen at work in the login; besides them, a player's rows go with the
 // player's own row, and none can be made for a player who isn't there.
 TEST_F(GameDatabase, RemovalLeavesNothingOfThePlayer) {
   db->OpenRecordset(QStringLiteral("SELECT * FROM Users WHERE ID = 3")).Delete();
-  EXPECT_EQ(rowsOf(QStringLiteral("UserContainers"), QStringLiteral("User ID"), 3), 0);
-  EXPECT_EQ(rowsOf(QStringLiteral("UserContainers"), QStringLiteral("User ID"), 2), 5);  // others keep theirs
-  EXPECT_THROW(execute(QStringLiteral("Make New User"), QStringLiteral("User ID"), 9), RuntimeFailure);
-  EXPECT_EQ(rowsOf(QStringLiteral("UserContainers"), QStringLiteral("User ID"), 9), 0);
+  EXPECT_EQ(containerRows(3), 0);
+  EXPECT_EQ(containerRows(2), 5);  // others keep theirs
+  EXPECT_THROW(makeRows(9), RuntimeFailure);
+  EXPECT_EQ(containerRows(9), 0);
 }
 
 TEST_F(GameDatabase, GetContainerEditsThisUsersRowOnly) {
-  Recordset lamp = open(QStringLiteral("GetContainer"), {{QStringLiteral("SelectContainer"), QStringLiteral("gran'slamp")},
-                                                          {QStringLiteral("SelectUserID"), 3}});
+  const auto container = [this](const char* name) {
+    return open(QStringLiteral("GetContainer"), {{QStringLiteral("SelectContainer"), QString::fromUtf8(name)}, {QStringLiteral("SelectUserID"), 3}});
+  };
+  Recordset lamp = container("gran'slamp");
   ASSERT_EQ(lamp.RecordCount(), 1);
   EXPECT_EQ(lamp.Field(QStringLiteral("Friendly Name")).toText(), QStringLiteral("Gran's Lamp"));
   lamp.Edit();
@@ -116,37 +119,31 @@ TEST_F(GameDatabase, GetContainerEditsThisUsersRowOnly) {
   lamp.Update();
   EXPECT_EQ(scores(3), std::make_pair(17.0, 1.0));
   EXPECT_EQ(scores(1), std::make_pair(117.0, 3.0));
-  EXPECT_EQ(open(QStringLiteral("GetContainer"), {{QStringLiteral("SelectContainer"), QStringLiteral("Nothing")},
-                                                  {QStringLiteral("SelectUserID"), 3}}).RecordCount(), 0);
+  EXPECT_EQ(container("Nothing").RecordCount(), 0);
 }
 
 TEST_F(GameDatabase, ListsComeInTheirAuthoredOrder) {
   EXPECT_EQ(column(db->OpenRecordset(QStringLiteral("SELECT * FROM GetObjects WHERE Containers.Name = ?"), {QStringLiteral("showerhead")}),
                    QStringLiteral("Objects.Name")),
-            QStringList({QStringLiteral("Standard Shower Head"), QStringLiteral("Old Shower Head"),
-                         QStringLiteral("WaterSense Shower Head"), QStringLiteral("Bucket")}));
-  EXPECT_EQ(column(open(QStringLiteral("GetSpriteCelSources"), {{QStringLiteral("Sprite"), QStringLiteral("tapwater")}}),
-                   QStringLiteral("Sound")),
-            QStringList({QStringLiteral("Water"), QStringLiteral("NULL")}));
-  EXPECT_EQ(column(open(QStringLiteral("GetHomeCheckupQuestions")), QStringLiteral("ID")),
-            QStringList({QStringLiteral("3"), QStringLiteral("1"), QStringLiteral("2"), QStringLiteral("7")}));
+            QStringList({"Standard Shower Head", "Old Shower Head", "WaterSense Shower Head", "Bucket"}));
+  EXPECT_EQ(column(open(QStringLiteral("GetSpriteCelSources"), {{QStringLiteral("Sprite"), QStringLiteral("tapwater")}}), QStringLiteral("Sound")),
+            QStringList({"Water", "NULL"}));
+  EXPECT_EQ(column(open(QStringLiteral("GetHomeCheckupQuestions")), QStringLiteral("ID")), QStringList({"3", "1", "2", "7"}));
   EXPECT_EQ(column(open(QStringLiteral("GetHowAmIDoing"), {{QStringLiteral("SelectUserID"), 3}}), QStringLiteral("Friendly Name")),
-            QStringList({QStringLiteral("Radio"), QStringLiteral("Kitchen Tap"), QStringLiteral("Gran's Lamp"),
-                         QStringLiteral("Shower Head")}));
-  EXPECT_EQ(column(open(QStringLiteral("GetAllSprites")), QStringLiteral("Name")),
-            QStringList({QStringLiteral("LampGlow"), QStringLiteral("TapWater")}));
+            QStringList({"Radio", "Kitchen Tap", "Gran's Lamp", "Shower Head"}));
+  EXPECT_EQ(column(open(QStringLiteral("GetAllSprites")), QStringLiteral("Name")), QStringList({"LampGlow", "TapWater"}));
 }
 
 TEST_F(GameDatabase, BackdropFollowsThePlayersContainers) {
-  auto backdrop = [&](const QString& shot, int user) {
-    return column(open(QStringLiteral("SelectBackdrop"), {{QStringLiteral("TargetShot"), shot}, {QStringLiteral("SelectUserID"), user}}),
-                  QStringLiteral("ImageSource"))
-        .value(0, QStringLiteral("none"));
+  auto backdrop = [&](const char* shot, int user) {
+    const QVariant target = QString::fromLatin1(shot);
+    return column(open(QStringLiteral("SelectBackdrop"), {{QStringLiteral("TargetShot"), target}, {QStringLiteral("SelectUserID"), user}}),
+                  QStringLiteral("ImageSource")).value(0, QStringLiteral("none"));
   };
-  EXPECT_EQ(backdrop(QStringLiteral("kitchen"), 1), QStringLiteral("KitchenTapRunning.bmp"));
-  EXPECT_EQ(backdrop(QStringLiteral("Kitchen"), 2), QStringLiteral("Kitchen.bmp"));
-  EXPECT_EQ(backdrop(QStringLiteral("Lounge"), 2), QStringLiteral("LoungeDark.bmp"));
-  EXPECT_EQ(backdrop(QStringLiteral("Attic"), 1), QStringLiteral("none"));
+  EXPECT_EQ(backdrop("kitchen", 1), QStringLiteral("KitchenTapRunning.bmp"));
+  EXPECT_EQ(backdrop("Kitchen", 2), QStringLiteral("Kitchen.bmp"));
+  EXPECT_EQ(backdrop("Lounge", 2), QStringLiteral("LoungeDark.bmp"));
+  EXPECT_EQ(backdrop("Attic", 1), QStringLiteral("none"));
 }
 
 TEST_F(GameDatabase, SavingTheWorldGivesNewShotsARowWithAnEmptyFriendlyName) {
@@ -157,10 +154,11 @@ TEST_F(GameDatabase, SavingTheWorldGivesNewShotsARowWithAnEmptyFriendlyName) {
   GameDB.reset();
   CurrentSet.reset();
 
-  EXPECT_EQ(db->OpenRecordset(QStringLiteral("SELECT * FROM Shots WHERE Name = ?"), {QStringLiteral("Kitchen")})
-                .Field(QStringLiteral("Freindly Name")).toText(),
-            QStringLiteral("The Kitchen"));
-  Recordset added = db->OpenRecordset(QStringLiteral("SELECT * FROM Shots WHERE Name = ?"), {QStringLiteral("Gran's Attic")});
+  const auto shot = [this](const char* name) {
+    return db->OpenRecordset(QStringLiteral("SELECT * FROM Shots WHERE Name = ?"), {QString::fromLatin1(name)});
+  };
+  EXPECT_EQ(shot("Kitchen").Field(QStringLiteral("Freindly Name")).toText(), QStringLiteral("The Kitchen"));
+  Recordset added = shot("Gran's Attic");
   ASSERT_EQ(added.RecordCount(), 1);
   EXPECT_EQ(added.Field(QStringLiteral("Freindly Name")).toText(), QString());
   EXPECT_EQ(db->OpenRecordset(QStringLiteral("Shots")).RecordCount(), 4);

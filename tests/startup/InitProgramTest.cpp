@@ -112,22 +112,16 @@ TEST_F(StartUp, QuitEndsTheProgramWithoutSaving) {
   EXPECT_EQ(storedSetting(QStringLiteral("ResourcePath")), QString());
 }
 
-TEST_F(StartUp, PanBaseZeroIsUsedUntilSetupIsConfirmed) {
-  WorkingDirectory here(tree.path());
-  tree.write(QStringLiteral("Graphics/Menu.bmp"));
-  storeSetting(QStringLiteral("PanBase"), QStringLiteral("0"));
-  ScriptedUi ui;
-  InitProgram();
-  EXPECT_EQ(SoundMgr().PanBase, 0);
-  storeSetting(QStringLiteral("PanBase"), QStringLiteral("-1200"));
-  InitProgram();
-  EXPECT_EQ(SoundMgr().PanBase, -1200);
-}
-
-TEST_F(StartUp, PanBaseThatIsNoSixteenBitNumberStopsTheProgram) {
+// PanBase is read as stored, 0 too, until the setup repairs it; it must be a 16-bit number.
+TEST_F(StartUp, PanBaseIsUsedAsStoredUntilSetupIsConfirmedAndMustBeASixteenBitNumber) {
   WorkingDirectory here(tree.path());
   tree.write(QStringLiteral("Graphics/Menu.bmp"));
   ScriptedUi ui;
+  for (const auto& [stored, used] : {std::pair{"0", 0}, {"-1200", -1200}}) {
+    storeSetting(QStringLiteral("PanBase"), QLatin1String(stored));
+    InitProgram();
+    EXPECT_EQ(SoundMgr().PanBase, used) << stored;
+  }
   storeSetting(QStringLiteral("PanBase"), QStringLiteral("40000"));
   EXPECT_THROW(InitProgram(), RuntimeFailure);
 }

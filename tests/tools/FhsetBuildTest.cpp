@@ -32,10 +32,7 @@ TEST(FhsetBuild, HandWrittenWorldTakesCountsFromItsRecordsAndDefaultsForTheRest)
 }
 
 TEST(FhsetBuild, ProblemsAreToldWithTheirLinesAndNothingIsBuilt) {
-  struct Case {
-    const char* text;
-    QString problem;
-  };
+  struct Case { const char* text; QString problem; };
   const Case cases[] = {
       {"left 5\n", "w.txt:1: 'left' belongs in a hotspot, and none is open here"},
       {"set S\nshot A\nhotspot H\nto-left B\n", "w.txt:4: 'to-left' belongs to a shot, whose fields come before its first hotspot"},

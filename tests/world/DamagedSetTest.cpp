@@ -73,10 +73,7 @@ TEST(DamagedFiles, EveryCutShortFileEndsInInputPastEndOfFile) {
 
 TEST(DamagedFiles, NegativeCountsFailAndStayAsRead) {
   const QByteArray whole = savedBytes(sampleSet());
-  struct Case {
-    qsizetype at;
-    i16 (*countIn)(const cSet&);
-  };
+  struct Case { qsizetype at; i16 (*countIn)(const cSet&); };
   const Case cases[] = {
       {67, [](const cSet& s) { return s.nNumShots; }},
       {71 + 198, [](const cSet& s) { return s.Shots[0]->NumHotSpots; }},

@@ -14,17 +14,13 @@ std::shared_ptr<cHotSpot> placed(const QString& name, int left, int top, int wid
   return placedHotSpot(name, {left, top, width, height});
 }
 
-// The hit test: strict edges, the lowest index wins, and a disabled hotspot still shields.
 TEST(HitTest, EdgesAreOutsideAndTheLowestIndexWinsEvenWhenDisabled) {
   auto shot = makeShot(QStringLiteral("Porch"), {placed(QStringLiteral("Lamp"), 10, 20, 30, 40),
                                                  placed(QStringLiteral("Wall"), 0, 0, 100, 100),
                                                  placed(QStringLiteral("Thin"), 200, 0, 1, 100)});
-  EXPECT_EQ(shot->CheckHotSpots(11, 21), 0);
-  EXPECT_EQ(shot->CheckHotSpots(10, 30), 1);  // on Lamp's left edge: Wall's
-  EXPECT_EQ(shot->CheckHotSpots(40, 30), 1);
-  EXPECT_EQ(shot->CheckHotSpots(0, 50), -1);
-  EXPECT_EQ(shot->CheckHotSpots(200, 50), -1);
-  EXPECT_EQ(shot->CheckHotSpots(201, 50), -1);  // one pixel wide: never hit
+  // (10, 30) lies on Lamp's left edge, so it is Wall's; Thin, one pixel wide, is never hit.
+  const std::tuple<int, int, int> hits[] = {{11, 21, 0}, {10, 30, 1}, {40, 30, 1}, {0, 50, -1}, {200, 50, -1}, {201, 50, -1}};
+  for (const auto& [x, y, index] : hits) EXPECT_EQ(shot->CheckHotSpots(static_cast<i16>(x), static_cast<i16>(y)), index) << x << ", " << y;
   shot->HotSpots[0]->Enabled = false;
   EXPECT_EQ(shot->CheckHotSpots(20, 30), 0);
   EXPECT_EQ(makeShot(QStringLiteral("Empty"))->CheckHotSpots(20, 30), -1);

@@ -32,17 +32,14 @@ class Sprite : public LiveWorld {
 
 // A run starts at its start cel; a halted sprite rests on the end of its run.
 TEST_F(Sprite, RunsWrapOrRestOnTheirLastCel) {
-  cSprite looping = started(4, true, false);
-  EXPECT_EQ(ticks(looping, 5), std::vector<int>({1, 2, 3, 0, 1}));
-  cSprite once = started(3, false, false);
-  EXPECT_EQ(ticks(once, 3), std::vector<int>({1, 2, 2}));
-  EXPECT_FALSE(view().SpriteTimer[once.SpriteIndex]->Enabled());
-  cSprite backwards = started(4, true, true);
-  EXPECT_EQ(ticks(backwards, 4), std::vector<int>({2, 1, 0, 3}));
-  cSprite backwardsOnce = started(2, false, true);
-  EXPECT_EQ(ticks(backwardsOnce, 2), std::vector<int>({0, 0}));
-  cSprite single = started(1, true, false);
-  EXPECT_EQ(ticks(single, 2), std::vector<int>({0, 0}));
+  const std::tuple<i16, bool, bool, std::vector<int>> runs[] = {
+      {4, true, false, {1, 2, 3, 0, 1}}, {3, false, false, {1, 2, 2}}, {4, true, true, {2, 1, 0, 3}}, {2, false, true, {0, 0}}, {1, true, false, {0, 0}}};
+  for (const auto& [frames, loop, backwards, cels] : runs) {
+    SCOPED_TRACE(testing::Message() << frames << " cels, loop " << loop << ", backwards " << backwards);
+    cSprite sprite = started(frames, loop, backwards);
+    EXPECT_EQ(ticks(sprite, static_cast<int>(cels.size())), cels);
+    if (!loop) EXPECT_FALSE(view().SpriteTimer[sprite.SpriteIndex]->Enabled());
+  }
 }
 
 TEST_F(Sprite, EachTickPaintsTheCelItStartsOn) {

@@ -13,11 +13,7 @@
 namespace fh::test {
 namespace {
 
-struct FhartRun {
-  int code = -1;
-  QString out;
-  QString err;
-};
+struct FhartRun { int code = -1; QString out, err; };
 
 FhartRun fhart(const QStringList& arguments) {
   FhartRun run;
@@ -158,10 +154,9 @@ TEST(FhartRender, PicturesThatCantBeDrawnAreNamedAndNothingIsWritten) {
   folder.write(QStringLiteral("art/Text.svg"), QByteArray("a note, not a picture"));
   const FhartRun run = fhart({QStringLiteral("render"), folder.at(QStringLiteral("art")), folder.at(QStringLiteral("out"))});
   EXPECT_EQ(run.code, 1);
-  EXPECT_TRUE(run.err.contains(QStringLiteral("Broken.svg:3:"))) << run.err.toStdString();
-  EXPECT_TRUE(run.err.contains(QStringLiteral("NoSize.svg: the <svg> element needs a width and a height"))) << run.err.toStdString();
-  EXPECT_TRUE(run.err.contains(QStringLiteral("Millimetres.svg: width=\"20mm\" is not a whole number of pixels"))) << run.err.toStdString();
-  EXPECT_TRUE(run.err.contains(QStringLiteral("Text.svg:1: not an SVG file"))) << run.err.toStdString();
+  for (const char* told : {"Broken.svg:3:", "NoSize.svg: the <svg> element needs a width and a height",
+                           "Millimetres.svg: width=\"20mm\" is not a whole number of pixels", "Text.svg:1: not an SVG file"})
+    EXPECT_TRUE(run.err.contains(QString::fromLatin1(told))) << run.err.toStdString();
   EXPECT_FALSE(run.err.contains(QStringLiteral("Good.svg")));
   EXPECT_FALSE(QFileInfo::exists(folder.at(QStringLiteral("out/Good.bmp"))));
 }
@@ -182,11 +177,9 @@ TEST(FhartNotes, WhatTheRendererLeavesOutIsToldWithFileAndLine) {
   auto told = [&](const QString& start) {
     return std::any_of(lines.begin(), lines.end(), [&](const QString& line) { return line.startsWith(QStringLiteral("fhart: Odd.svg:") + start); });
   };
-  EXPECT_TRUE(told(QStringLiteral("2: <clipPath> is not understood"))) << run.err.toStdString();
-  EXPECT_TRUE(told(QStringLiteral("3: clip-path has no effect"))) << run.err.toStdString();
-  EXPECT_TRUE(told(QStringLiteral("4: fill rgba(0,0,0,0.5) paints black"))) << run.err.toStdString();
-  EXPECT_TRUE(told(QStringLiteral("5: <radialGradient> without an r"))) << run.err.toStdString();
-  EXPECT_TRUE(told(QStringLiteral("6: fill points to #nothing"))) << run.err.toStdString();
+  for (const char* note : {"2: <clipPath> is not understood", "3: clip-path has no effect", "4: fill rgba(0,0,0,0.5) paints black",
+                           "5: <radialGradient> without an r", "6: fill points to #nothing"})
+    EXPECT_TRUE(told(QString::fromLatin1(note))) << run.err.toStdString();
   EXPECT_EQ(lines.size(), 5) << run.err.toStdString();
   EXPECT_TRUE(QFileInfo::exists(folder.at(QStringLiteral("out/Odd.bmp"))));
 }

@@ -23,11 +23,7 @@ double rms(const std::vector<float>& samples, std::size_t from, std::size_t to) 
 }
 
 TEST(SoundSources, AMistakeIsNamedWithItsLine) {
-  struct Case {
-    const char* text;
-    int line;
-    const char* says;
-  };
+  struct Case { const char* text; int line; const char* says; };
   const Case cases[] = {
       {"length 1\ntone freq=440 decy=0.1\n", 2, "decy"},
       {"length 1\n\n# a comment\ntone freq=abc\n", 4, "abc"},

@@ -9,9 +9,7 @@
 
 #include <gtest/gtest.h>
 
-using namespace fh;
-using fh::test::failureOf;
-using fh::test::TempFolder;
+namespace fh::test {
 
 namespace {
 
@@ -45,12 +43,13 @@ class DataLayer : public testing::Test {
     createDatabaseFile(folder.at(QStringLiteral("Game.mdb")), {source});
     db = Database::OpenDatabase(folder.path() + QStringLiteral("\\GAME.MDB"));
   }
-  int holdingState(int user, const QString& thing) {
+  Recordset holding(int user, const QString& thing) {
     QueryDef query = db->QueryDefs(QStringLiteral("GetHolding"));
     query.SetParameter(QStringLiteral("Select User"), user);
     query.SetParameter(QStringLiteral("Thing"), thing);
-    return query.OpenRecordset().Field(QStringLiteral("State")).toI16();
+    return query.OpenRecordset();
   }
+  int holdingState(int user, const QString& thing) { return holding(user, thing).Field(QStringLiteral("State")).toI16(); }
 
   TempFolder folder;
   std::shared_ptr<Database> db;
@@ -126,10 +125,7 @@ TEST_F(DataLayer, AddNewGivesTheEngineIdBeforeUpdate) {
 }
 
 TEST_F(DataLayer, EditsOfASavedQueryRowGoToItsUpdateTable) {
-  QueryDef query = db->QueryDefs(QStringLiteral("GetHolding"));
-  query.SetParameter(QStringLiteral("Select User"), 1);
-  query.SetParameter(QStringLiteral("Thing"), QStringLiteral("Lamp"));
-  Recordset rs = query.OpenRecordset();
+  Recordset rs = holding(1, QStringLiteral("Lamp"));
   rs.Edit();
   rs.SetField(QStringLiteral("state"), 1);
   EXPECT_EQ(failureOf([&] { rs.SetField(QStringLiteral("Things.Name"), QStringLiteral("x")); }), Failure::FieldNotUpdatable);
@@ -236,3 +232,5 @@ TEST(SqlSources, ABadStatementNamesItsPlaceAndLeavesNoFile) {
   }
   EXPECT_FALSE(QFile::exists(folder.at(QStringLiteral("x.mdb"))));
 }
+
+}  // namespace fh::test

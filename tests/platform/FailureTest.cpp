@@ -11,12 +11,7 @@
 
 #include <gtest/gtest.h>
 
-using namespace fh;
-using fh::test::failureOf;
-using fh::test::QuitCalled;
-using fh::test::ScriptedUi;
-using fh::test::Shown;
-using fh::test::TempFolder;
+namespace fh::test {
 
 TEST(EntryGuard, ReportsARunTimeFailureAndEndsTheProgram) {
   ScriptedUi ui;
@@ -28,9 +23,8 @@ TEST(EntryGuard, ReportsARunTimeFailureAndEndsTheProgram) {
   }
   ASSERT_EQ(ui.messageBoxes().size(), 1u);
   const Shown report = ui.messageBoxes().front();
-  EXPECT_TRUE(report.text.contains(QStringLiteral("'3265'")));
-  EXPECT_TRUE(report.text.contains(QStringLiteral("Item not found (query 'GetAllSprites')")));
-  EXPECT_TRUE(report.text.contains(QStringLiteral("frmSetup OK")));
+  for (const char* part : {"'3265'", "Item not found (query 'GetAllSprites')", "frmSetup OK"})
+    EXPECT_TRUE(report.text.contains(QLatin1String(part))) << report.text.toStdString();
   EXPECT_EQ(report.title, QStringLiteral("Fernhollow"));
 
   // Other exceptions are reported too.
@@ -65,3 +59,5 @@ TEST(Pictures, LoadBitmapsAndFailClearlyOtherwise) {
   EXPECT_EQ(failureOf([&] { LoadPicture(tree.path() + QStringLiteral("\\broken.bmp")); }), Failure::InvalidPicture);
   EXPECT_EQ(failureOf([&] { LoadPicture(tree.path() + QStringLiteral("\\missing.bmp")); }), Failure::FileNotFound);
 }
+
+}  // namespace fh::test

@@ -8,9 +8,7 @@
 
 #include <gtest/gtest.h>
 
-using namespace fh;
-using fh::test::failureOf;
-using fh::test::TempFolder;
+namespace fh::test {
 
 TEST(FileNameResolution, MatchesEveryComponentWithoutRegardToCase) {
   TempFolder tree;
@@ -45,16 +43,14 @@ TEST(DirectoryQuery, FindsOrdinaryFilesOnly) {
   EXPECT_EQ(firstMatchingFile(tree.path() + QStringLiteral("\\GRAPHICS\\*.*")), QString());
   tree.write(QStringLiteral("Graphics/noext"));
   tree.write(QStringLiteral("Graphics/b.bmp"));
-  EXPECT_EQ(firstMatchingFile(tree.path() + QStringLiteral("\\GRAPHICS\\*.*")), QStringLiteral("b.bmp"));
-  EXPECT_EQ(firstMatchingFile(tree.path() + QStringLiteral("\\Graphics\\*.BMP")), QStringLiteral("b.bmp"));
-  EXPECT_EQ(firstMatchingFile(tree.path() + QStringLiteral("\\Graphics\\?oext")), QStringLiteral("noext"));
+  for (const auto& [pattern, found] : {std::pair{"\\GRAPHICS\\*.*", "b.bmp"}, {"\\Graphics\\*.BMP", "b.bmp"}, {"\\Graphics\\?oext", "noext"}})
+    EXPECT_EQ(firstMatchingFile(tree.path() + QLatin1String(pattern)), QLatin1String(found)) << pattern;
 }
 
 TEST(DirectoryQuery, MissingOrOddFoldersGiveNothingAndNeverFail) {
   TempFolder tree;
-  EXPECT_EQ(firstMatchingFile(tree.path() + QStringLiteral("\\Nowhere\\*.*")), QString());
-  EXPECT_EQ(firstMatchingFile(QString()), QString());
-  EXPECT_EQ(firstMatchingFile(QStringLiteral("/proc/1/root/nothing/*.*")), QString());
+  for (const QString& pattern : {tree.path() + QStringLiteral("\\Nowhere\\*.*"), QString(), QStringLiteral("/proc/1/root/nothing/*.*")})
+    EXPECT_EQ(firstMatchingFile(pattern), QString()) << pattern.toStdString();
 }
 
 TEST(WesternText, EveryByteSurvivesAReadAndAWrite) {
@@ -82,3 +78,5 @@ TEST(ByteFiles, OpeningFailsClearlyForMissingFilesAndFolders) {
   EXPECT_TRUE(message.contains(QStringLiteral("missing.set")));
   EXPECT_THROW(ByteFile::openForWriting(tree.path() + QStringLiteral("\\no\\such\\folder\\x.set")), RuntimeFailure);
 }
+
+}  // namespace fh::test

@@ -17,6 +17,8 @@
 namespace fh::test {
 namespace {
 
+using Messages = std::vector<std::pair<int, std::uint32_t>>;
+
 // A window with children of both kinds: a label and an image pair have no window of their own, a
 // picture box and a command button have.
 class WindowMessages : public testing::Test {
@@ -54,7 +56,7 @@ class WindowMessages : public testing::Test {
   PictureBox* picture = nullptr;
   QPushButton* button = nullptr;
   MessageHook hook;
-  std::vector<std::pair<int, std::uint32_t>> seen;
+  Messages seen;
   int actions = 0;
 };
 
@@ -64,9 +66,7 @@ TEST_F(WindowMessages, TheWindowsOwnSurfaceReportsOnceInWindowPixels) {
   send(&window, QEvent::MouseButtonRelease, {7, 8}, Qt::LeftButton);
   send(&window, QEvent::MouseButtonPress, {7, 8}, Qt::RightButton);
   send(&window, QEvent::MouseButtonDblClick, {7, 8}, Qt::LeftButton);
-  const std::vector<std::pair<int, std::uint32_t>> expected{
-      {512, at(105, 56)}, {513, at(105, 56)}, {514, at(7, 8)}, {516, at(7, 8)}, {515, at(7, 8)}};
-  EXPECT_EQ(seen, expected);
+  EXPECT_EQ(seen, (Messages{{512, at(105, 56)}, {513, at(105, 56)}, {514, at(7, 8)}, {516, at(7, 8)}, {515, at(7, 8)}}));
 }
 
 TEST_F(WindowMessages, ChildrenWithAWindowOfTheirOwnKeepTheirMessages) {
@@ -91,8 +91,7 @@ TEST_F(WindowMessages, AnImagePairIsPartOfTheSurfaceAndAnyButtonWorksIt) {
   EXPECT_TRUE(pair->upVisible());
   EXPECT_EQ(actions, 1);
   EXPECT_EQ(ui.yields(), 2);
-  const std::vector<std::pair<int, std::uint32_t>> expected{{516, at(13, 204)}, {517, at(310, 204)}};
-  EXPECT_EQ(seen, expected);
+  EXPECT_EQ(seen, (Messages{{516, at(13, 204)}, {517, at(310, 204)}}));
 
   // A release that wasn't pressed here does nothing.
   send(pair, QEvent::MouseButtonRelease, {3, 4}, Qt::LeftButton);
@@ -104,8 +103,7 @@ TEST_F(WindowMessages, ALabelAddedLaterJoinsTheSurfaceWhenShown) {
   later->setGeometry(20, 20, 30, 30);
   later->show();
   send(later, QEvent::MouseButtonPress, {1, 2}, Qt::LeftButton);
-  const std::vector<std::pair<int, std::uint32_t>> expected{{513, at(21, 22)}};
-  EXPECT_EQ(seen, expected);
+  EXPECT_EQ(seen, (Messages{{513, at(21, 22)}}));
 }
 
 // A key goes to the focus and, let pass by a label, on to the window: one report, not two.
@@ -113,7 +111,7 @@ TEST_F(WindowMessages, AKeyIsReportedOnceWhereverOnTheSurfaceTheFocusIs) {
   label->setFocus();
   QKeyEvent press(QEvent::KeyPress, Qt::Key_A, Qt::NoModifier, QStringLiteral("a"));
   QCoreApplication::sendEvent(label, &press);
-  EXPECT_EQ(seen, (std::vector<std::pair<int, std::uint32_t>>{{256, 0u}}));
+  EXPECT_EQ(seen, (Messages{{256, 0u}}));
 }
 
 TEST(MessageParam, HoldsYHighAndXLowAndKeepsAHeldPointerAtTheEdge) {

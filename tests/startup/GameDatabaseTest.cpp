@@ -11,10 +11,7 @@
 
 #include <gtest/gtest.h>
 
-using namespace fh;
-using fh::test::makeSet;
-using fh::test::makeShot;
-using fh::test::TempFolder;
+namespace fh::test {
 
 namespace {
 
@@ -163,3 +160,5 @@ TEST_F(GameDatabase, SavingTheWorldGivesNewShotsARowWithAnEmptyFriendlyName) {
   EXPECT_EQ(added.Field(QStringLiteral("Freindly Name")).toText(), QString());
   EXPECT_EQ(db->OpenRecordset(QStringLiteral("Shots")).RecordCount(), 4);
 }
+
+}  // namespace fh::test

@@ -13,11 +13,7 @@
 
 #include <gtest/gtest.h>
 
-using namespace fh;
-using fh::test::pictureBytes;
-using fh::test::ScriptedUi;
-using fh::test::TempFolder;
-using fh::test::WorkingDirectory;
+namespace fh::test {
 
 namespace {
 
@@ -125,3 +121,5 @@ TEST_F(StartUp, PanBaseIsUsedAsStoredUntilSetupIsConfirmedAndMustBeASixteenBitNu
   storeSetting(QStringLiteral("PanBase"), QStringLiteral("40000"));
   EXPECT_THROW(InitProgram(), RuntimeFailure);
 }
+
+}  // namespace fh::test

@@ -9,10 +9,7 @@
 
 #include <gtest/gtest.h>
 
-using namespace fh;
-using fh::test::QuitCalled;
-using fh::test::ScriptedUi;
-using fh::test::TempFolder;
+namespace fh::test {
 
 TEST(SetupForm, ComingUpShowsTheRootOfTheChosenDrive) {
   TempFolder tree;
@@ -66,3 +63,5 @@ TEST(FolderList, ShowsTheChainFromTheRootAndTheSubFolders) {
   list.openRow(0);
   EXPECT_EQ(list.path(), QStringLiteral("/"));
 }
+
+}  // namespace fh::test

@@ -41,6 +41,7 @@ class EditMode : public LiveWorld {
   void moveTo(int x, int y) { send(QEvent::MouseMove, {x, y}); }
   void press(int x, int y, Qt::MouseButton button) { send(QEvent::MouseButtonPress, {x, y}, button); }
   void tick() { view().GameClock_Timer(); }
+  void moveAndTick(int x, int y) { moveTo(x, y); tick(); }
   cHotSpot& door() { return *CurrentShot->HotSpot(0); }
   QRect doorPlace() { return {door().Left, door().Top, door().Width, door().Height}; }
 
@@ -79,17 +80,14 @@ TEST_F(EditMode, ANineteenthDrawnHotspotIsRefusedAndLeavesNothingToDrag) {
 // both together do both.
 TEST_F(EditMode, TheTickMovesTheHotspotWithTheLeftButtonAndSizesItWithTheRight) {
   view().modeDebug();
-  moveTo(30, 30);
-  tick();
+  moveAndTick(30, 30);
   press(30, 30, Qt::LeftButton);
-  moveTo(40, 45);
-  tick();
+  moveAndTick(40, 45);
   EXPECT_EQ(doorPlace(), QRect(20, 25, 60, 60));
   EXPECT_EQ(view().Highlight[0]->pos(), view().DisplayView->pos() + QPoint(20, 25));
 
   press(40, 45, Qt::RightButton);
-  moveTo(45, 47);
-  tick();
+  moveAndTick(45, 47);
   EXPECT_EQ(doorPlace(), QRect(25, 27, 65, 62));
   EXPECT_EQ(view().Highlight[0]->size(), QSize(65, 62));
 }
@@ -101,8 +99,7 @@ TEST_F(EditMode, ASizePulledPastItsCornerEndsOnlyTheTick) {
   CurrentShot->AddHotSpot(200, 200, 10, 10);
   view().modeDebug();
   press(205, 205, Qt::RightButton);
-  moveTo(15, 15);
-  tick();
+  moveAndTick(15, 15);
   EXPECT_EQ(view().CurrentHotSpotIndex, -1);
   EXPECT_EQ(doorPlace(), QRect(10, 10, 60, 60));
   EXPECT_TRUE(messages().isEmpty());

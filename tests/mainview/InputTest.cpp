@@ -252,20 +252,18 @@ TEST_F(ClickRoad, TheFrameIsHeardInPicturePixelsAndARightReleaseWaitsForTheLeft)
 // A write waits a while for another program's; one that can't be made is told, and the house in
 // memory goes back to what the database holds.
 TEST_F(SavingUnderAClick, AWriteWaitsForABriefLockAndAFailedOneIsToldAndUndone) {
-  hover(30, 30);
-  {
-    LockHolder brief(data.at(QStringLiteral("Fernhollow.mdb")), 1000);
+  const auto pressWhileLocked = [this](int milliseconds) {
+    LockHolder lock(data.at(QStringLiteral("Fernhollow.mdb")), milliseconds);
     press(30, 30);
-  }
+  };
+  hover(30, 30);
+  pressWhileLocked(1000);
   EXPECT_EQ(state("tap"), 0);
   EXPECT_EQ(stored(QStringLiteral("CurrentState"), QStringLiteral("Tap")), 0);
   EXPECT_TRUE(messages().isEmpty());
 
   tick();
-  {
-    LockHolder tooLong(data.at(QStringLiteral("Fernhollow.mdb")), 4500);
-    press(30, 30);
-  }
+  pressWhileLocked(4500);
   EXPECT_EQ(state("tap"), 0);
   ASSERT_EQ(messages().size(), 1);
   EXPECT_TRUE(messages().front().startsWith(QStringLiteral("The game could not save your last change")));

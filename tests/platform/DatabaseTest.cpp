@@ -224,12 +224,9 @@ TEST(SqlSources, SplitAtSemicolonsOutsideQuotesAndComments) {
 TEST(SqlSources, ABadStatementNamesItsPlaceAndLeavesNoFile) {
   TempFolder folder;
   const QString source = folder.write(QStringLiteral("bad.sql"), "CREATE TABLE T (A TEXT);\n\nINSERT INTO Nowhere VALUES (1);\n");
-  try {
-    createDatabaseFile(folder.at(QStringLiteral("x.mdb")), {source});
-    FAIL();
-  } catch (const RuntimeFailure& failure) {
-    EXPECT_TRUE(failure.message().contains(source + QStringLiteral(":3:"))) << failure.message().toStdString();
-  }
+  QString message;
+  failureOf([&] { createDatabaseFile(folder.at(QStringLiteral("x.mdb")), {source}); }, &message);
+  EXPECT_TRUE(message.contains(source + QStringLiteral(":3:"))) << message.toStdString();
   EXPECT_FALSE(QFile::exists(folder.at(QStringLiteral("x.mdb"))));
 }
 

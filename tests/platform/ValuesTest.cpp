@@ -44,6 +44,7 @@ TEST(NumberPatterns, ThousandsPatternRoundsAndShowsNothingForZero) {
 
 TEST(NumberPatterns, ClockShowsTimeOfDayAndWrapsAtTwentyFourHours) {
   const std::pair<double, const char*> cases[] = {
-      {0, "0:00:00"}, {(3600.0 * 13 + 60 * 5 + 9) / 86400, "13:05:09"}, {1.0, "0:00:00"}, {1.0 + 61.0 / 86400, "0:01:01"}, {86399.6 / 86400, "0:00:00"}};
+      {0, "0:00:00"}, {(3600.0 * 13 + 60 * 5 + 9) / 86400, "13:05:09"}, {1.0, "0:00:00"}, {1.0 + 61.0 / 86400, "0:01:01"},
+      {86399.6 / 86400, "0:00:00"}};
   for (const auto& [days, text] : cases) EXPECT_EQ(formatClock(days), QString::fromLatin1(text)) << days;
 }

@@ -59,7 +59,8 @@ TEST_F(ArgumentRules, ExtraWordsAreIgnoredAndALeftOutLastWordReadsEmpty) {
   run("setcontainer tap 0 refresh and more");
   EXPECT_EQ(tap(), std::make_pair(0, 0));
   const std::pair<const char*, const char*> dialogs[] = {
-      {"showdialogstring Hello", "hello"}, {"showdialogstring The TAP drips", "the tap"}, {"showdialog hello", "Hello there."}, {"showdialog  hello", ""}};
+      {"showdialogstring Hello", "hello"}, {"showdialogstring The TAP drips", "the tap"}, {"showdialog hello", "Hello there."},
+      {"showdialog  hello", ""}};
   for (const auto& [line, dialog] : dialogs) {
     run(line);
     EXPECT_EQ(text(), QLatin1String(dialog)) << line;

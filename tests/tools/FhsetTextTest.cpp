@@ -15,10 +15,12 @@ namespace {
 using fhset::buildSet;
 using fhset::dumpSetFile;
 
+fhset::Dump dump(const QByteArray& bytes) { return dumpSetFile(bytes, QStringLiteral("world.set")); }
+
 QByteArray rebuilt(const QByteArray& bytes) {
-  const fhset::Dump dump = dumpSetFile(bytes, QStringLiteral("world.set"));
-  const fhset::Built built = buildSet(dump.text.toUtf8(), QStringLiteral("world.txt"));
-  EXPECT_EQ(built.problems, QStringList()) << dump.text.toStdString();
+  const QString text = dump(bytes).text;
+  const fhset::Built built = buildSet(text.toUtf8(), QStringLiteral("world.txt"));
+  EXPECT_EQ(built.problems, QStringList()) << text.toStdString();
   return built.set ? savedBytes(*built.set) : QByteArray();
 }
 
@@ -61,27 +63,26 @@ TEST(FhsetText, FlagsThatAreNeitherMinusOneNorZeroComeBackAsTheyWere) {
   bytes[71 + 200 + 19] = 2;  // the front door's enabled
   bytes[71 + 200 + 19 + 1] = 0;
   EXPECT_EQ(savedBytes(loadedFrom<cSet>(bytes)), bytes);
-  const QString text = dumpSetFile(bytes, QStringLiteral("world.set")).text;
+  const QString text = dump(bytes).text;
   EXPECT_TRUE(text.contains(QStringLiteral("\n  elapsed-time 1\n")) && text.contains(QStringLiteral("\n    enabled 2\n"))) << text.toStdString();
   EXPECT_EQ(rebuilt(bytes), bytes);
 }
 
 TEST(FhsetText, DumpOfADamagedFileSaysWhereAndKeepsWhatItRead) {
   QByteArray bytes = savedBytes(sampleSet());
-  const fhset::Dump cut = dumpSetFile(bytes.left(71 + 200 + 30), QStringLiteral("world.set"));
+  const fhset::Dump cut = dump(bytes.left(71 + 200 + 30));
   EXPECT_TRUE(cut.text.contains(QStringLiteral("\nshot Porch\n")) && cut.text.contains(QStringLiteral("\n  to-left Garden\n")));
   EXPECT_EQ(cut.damage, QStringList({QStringLiteral("byte 67: the set counts 2 shots; the reading stops after 0 of them"),
                                      QStringLiteral("byte 269: shot 0 (Porch) counts 2 hotspots; the reading stops after 0 of them"),
                                      QStringLiteral("byte 301: the file ends 30 bytes into hotspot 0 of shot 0; "
                                                     "the fields it doesn't reach are defaults")}));
-  EXPECT_EQ(dumpSetFile(bytes.left(71), QStringLiteral("world.set")).damage.last(),
-            QStringLiteral("byte 71: the file ends where shot 0 should begin; its fields are defaults"));
-  EXPECT_EQ(dumpSetFile(bytes + "xyz", QStringLiteral("world.set")).damage,
+  EXPECT_EQ(dump(bytes.left(71)).damage.last(), QStringLiteral("byte 71: the file ends where shot 0 should begin; its fields are defaults"));
+  EXPECT_EQ(dump(bytes + "xyz").damage,
             QStringList({QStringLiteral("byte %1: 3 bytes follow the end of the set; the game never reads them, "
                                         "and they are left out here").arg(bytes.size())}));
   bytes[71 + 198] = '\xFF';
   bytes[71 + 199] = '\xFF';
-  EXPECT_EQ(dumpSetFile(bytes, QStringLiteral("world.set")).damage.last(),
+  EXPECT_EQ(dump(bytes).damage.last(),
             QStringLiteral("byte 269: shot 0 (Porch) counts -1 hotspots; a negative count can't be read, and the reading stops there"));
 }
 

@@ -33,7 +33,8 @@ class Sprite : public LiveWorld {
 // A run starts at its start cel; a halted sprite rests on the end of its run.
 TEST_F(Sprite, RunsWrapOrRestOnTheirLastCel) {
   const std::tuple<i16, bool, bool, std::vector<int>> runs[] = {
-      {4, true, false, {1, 2, 3, 0, 1}}, {3, false, false, {1, 2, 2}}, {4, true, true, {2, 1, 0, 3}}, {2, false, true, {0, 0}}, {1, true, false, {0, 0}}};
+      {4, true, false, {1, 2, 3, 0, 1}}, {3, false, false, {1, 2, 2}}, {4, true, true, {2, 1, 0, 3}},
+      {2, false, true, {0, 0}},          {1, true, false, {0, 0}}};
   for (const auto& [frames, loop, backwards, cels] : runs) {
     SCOPED_TRACE(testing::Message() << frames << " cels, loop " << loop << ", backwards " << backwards);
     cSprite sprite = started(frames, loop, backwards);

@@ -41,7 +41,8 @@ TEST(MidiFile, HeaderNamesTypeOneATrackPerInstrumentAndTheDivision) {
   const QByteArray file = writeMidiFile(parseMusicSource(kTwoTracks, QStringLiteral("t.txt")));
   EXPECT_EQ(file.left(4), QByteArray("MThd"));
   // A header of 6 bytes: type 1, three tracks (the tempo track and two instruments), 480 ticks a beat.
-  for (const auto& [at, size, value] : {std::tuple{4, 4, 6u}, {8, 2, 1u}, {10, 2, 3u}, {12, 2, 480u}}) EXPECT_EQ(bigEndian(file, at, size), value) << "at " << at;
+  for (const auto& [at, size, value] : {std::tuple{4, 4, 6u}, {8, 2, 1u}, {10, 2, 3u}, {12, 2, 480u}})
+    EXPECT_EQ(bigEndian(file, at, size), value) << "at " << at;
   const auto chunks = trackChunks(file);
   ASSERT_EQ(chunks.size(), 3u);
   qsizetype end = 14;

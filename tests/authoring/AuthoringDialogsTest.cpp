@@ -24,12 +24,9 @@ class Authoring : public LiveWorld {
  protected:
   void SetUp() override {
     LiveWorld::SetUp();
-    const QStringList tapScript{QStringLiteral("togglecontainer tap"), QStringLiteral("showdialog drip")};
-    auto porch = makeShot(QStringLiteral("Porch"), {makeHotSpot(QStringLiteral("Tap"), tapScript), makeHotSpot(QStringLiteral("Door")),
-                                                    makeHotSpot(QStringLiteral("Lamp"))});
+    auto porch = makeShot("Porch", {makeHotSpot("Tap", {"togglecontainer tap", "showdialog drip"}), makeHotSpot("Door"), makeHotSpot("Lamp")});
     for (i16 i = 0; i < 3; ++i) porch->HotSpots[i]->Left = static_cast<i16>(10 + 50 * i);
-    data.write(QStringLiteral("Small.set"),
-               savedBytes(makeSet(QStringLiteral("Small"), {porch, makeShot(QStringLiteral("Hall")), makeShot(QStringLiteral("Attic"))})));
+    data.write(QStringLiteral("Small.set"), savedBytes(makeSet("Small", {porch, makeShot("Hall"), makeShot("Attic")})));
     LoadSet(QStringLiteral("Small.set"));
     view().show();
     view().modeDebug();

@@ -21,9 +21,8 @@ class EditMode : public LiveWorld {
  protected:
   void SetUp() override {
     LiveWorld::SetUp();
-    auto door = placedHotSpot(QStringLiteral("Door"), {10, 10, 60, 60});
-    data.write(QStringLiteral("Small.set"),
-               savedBytes(makeSet(QStringLiteral("Small"), {makeShot(QStringLiteral("Porch"), {door}), makeShot(QStringLiteral("Hall"))})));
+    auto door = placedHotSpot("Door", {10, 10, 60, 60});
+    data.write(QStringLiteral("Small.set"), savedBytes(makeSet("Small", {makeShot("Porch", {door}), makeShot("Hall")})));
     GameMode = 1;
     LoadSet(QStringLiteral("Small.set"));
     view().show();

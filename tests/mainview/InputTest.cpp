@@ -41,16 +41,14 @@ class PlayInput : public LiveWorld {
  protected:
   void SetUp() override {
     LiveWorld::SetUp();
-    auto tap = spot(QStringLiteral("Tap"), {10, 10, 60, 60}, QStringLiteral("showdialog hello"), {QStringLiteral("togglecontainer tap")});
+    auto tap = spot("Tap", {10, 10, 60, 60}, "showdialog hello", {"togglecontainer tap"});
     tap->Icon = 2;
-    auto door = spot(QStringLiteral("Door"), {100, 10, 60, 200}, QStringLiteral("showdialogstring the door"),
-                     {QStringLiteral("goto shot hall"), QStringLiteral("setcontainer lamp 0")});
-    auto broken = spot(QStringLiteral("Broken"), {200, 10, 60, 60}, {},
-                       {QStringLiteral("togglecontainer lamp"), QStringLiteral("togglecontainer nosuch"), QStringLiteral("togglecontainer tap")});
-    auto telly = spot(QStringLiteral("Telly"), {300, 10, 60, 60}, {}, {QStringLiteral("showvideo next"), QStringLiteral("togglecontainer tap")});
+    auto door = spot("Door", {100, 10, 60, 200}, "showdialogstring the door", {"goto shot hall", "setcontainer lamp 0"});
+    auto broken = spot("Broken", {200, 10, 60, 60}, {}, {"togglecontainer lamp", "togglecontainer nosuch", "togglecontainer tap"});
+    auto telly = spot("Telly", {300, 10, 60, 60}, {}, {"showvideo next", "togglecontainer tap"});
     auto porch = makeShot(QStringLiteral("Porch"), {tap, door, broken, telly});
     porch->ShotToRight = QStringLiteral("Hall");
-    auto hall = makeShot(QStringLiteral("Hall"), {spot(QStringLiteral("Stairs"), {90, 0, 100, 100}, QStringLiteral("showdialogstring upstairs"), {})});
+    auto hall = makeShot(QStringLiteral("Hall"), {spot("Stairs", {90, 0, 100, 100}, "showdialogstring upstairs", {})});
     hall->ShotToLeft = QStringLiteral("Porch");
     data.write(QStringLiteral("Small.set"), savedBytes(makeSet(QStringLiteral("Small"), {porch, hall, makeShot(QStringLiteral("Computer"))})));
 

@@ -19,9 +19,8 @@ class Commands : public LiveWorld {
   void SetUp() override {
     LiveWorld::SetUp();
     ActiveComputerScreen = 0;
-    auto porch = makeShot(QStringLiteral("Porch"), {makeHotSpot(QStringLiteral("FrontDoor")), makeHotSpot(QStringLiteral("Lamp"))});
-    data.write(QStringLiteral("Commands.set"), savedBytes(makeSet(QStringLiteral("Commands"),
-        {porch, makeShot(QStringLiteral("Attic")), makeShot(QStringLiteral("Hall")), makeShot(QStringLiteral("ATTIC"))})));
+    auto porch = makeShot("Porch", {makeHotSpot("FrontDoor"), makeHotSpot("Lamp")});
+    data.write(QStringLiteral("Commands.set"), savedBytes(makeSet("Commands", {porch, makeShot("Attic"), makeShot("Hall"), makeShot("ATTIC")})));
     LoadSet(QStringLiteral("Commands.set"));
   }
   void TearDown() override {

@@ -43,8 +43,7 @@ class GameDatabase : public testing::Test {
     return rs.Field(column).toDouble();
   }
   std::pair<double, double> scores(int userId) {
-    return {number(QStringLiteral("SelectionScore"), QStringLiteral("SumOfADR"), userId),
-            number(QStringLiteral("StateScore"), QStringLiteral("CountOfCurrentState"), userId)};
+    return {number("SelectionScore", "SumOfADR", userId), number("StateScore", "CountOfCurrentState", userId)};
   }
   int containerRows(int userId) {
     return db->OpenRecordset(QStringLiteral("SELECT * FROM UserContainers WHERE \"User ID\" = ?"), {userId}).RecordCount();

@@ -48,8 +48,7 @@ class SessionFixture : public testing::Test {
                        {sources + QStringLiteral("/world/database/schema.sql"), sources + QStringLiteral("/world/database/queries.sql"),
                         sources + QStringLiteral("/tests/tools/smallworld/small.sql"),
                         sources + QStringLiteral("/tests/startup/PlayersFixture.sql")});
-    folder.write(QStringLiteral("Database/small.set"),
-                 savedBytes(makeSet(QStringLiteral("Small"), {makeShot(QStringLiteral("Porch")), makeShot(QStringLiteral("Computer"))})));
+    folder.write(QStringLiteral("Database/small.set"), savedBytes(makeSet("Small", {makeShot("Porch"), makeShot("Computer")})));
     const std::pair<const char*, QSize> pictures[] = {{"Menu", {640, 480}},  {"opening", {640, 480}},       {"slide03", {317, 211}},
                                                       {"Porch", {632, 390}}, {"PorchDripping", {632, 390}}, {"Desk", {632, 390}},
                                                       {"Drip", {64, 16}}};

@@ -20,8 +20,7 @@ class Termination : public SessionFixture {
       std::signal(SIGINT, SIG_DFL);
       std::signal(SIGHUP, SIG_DFL);
     });
-    child.start(QStringLiteral(FH_PLAYING_PROCESS),
-                {DatabasePath + QStringLiteral("Fernhollow.mdb"), folder.at(QStringLiteral("cd")), QStringLiteral("0.75"), mode});
+    child.start(QStringLiteral(FH_PLAYING_PROCESS), {DatabasePath + "Fernhollow.mdb", folder.at("cd"), "0.75", mode});
     if (!child.waitForReadyRead(15000) || child.readLine().trimmed() != "ready") {
       ADD_FAILURE() << "not ready: " << child.readAllStandardError().toStdString();
       return -1;

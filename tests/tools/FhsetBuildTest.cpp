@@ -26,8 +26,7 @@ TEST(FhsetBuild, HandWrittenWorldTakesCountsFromItsRecordsAndDefaultsForTheRest)
       QStringLiteral("house.txt"));
   ASSERT_EQ(built.problems, QStringList());
   const auto tap = makeHotSpot(QStringLiteral("Tap"), {QStringLiteral("toggle tap"), QString()});
-  const cSet expected = makeSet(QStringLiteral("House"), {makeShot(QStringLiteral("Kitchen"), {tap, makeHotSpot(QStringLiteral("Fridge"))}),
-                                                          makeShot(QStringLiteral("Garden"))});
+  const cSet expected = makeSet("House", {makeShot("Kitchen", {tap, makeHotSpot("Fridge")}), makeShot("Garden")});
   EXPECT_EQ(savedBytes(*built.set), savedBytes(expected));
 }
 
@@ -55,8 +54,7 @@ TEST(FhsetBuild, ProblemsAreToldWithTheirLinesAndNothingIsBuilt) {
 
 TEST(FhsetBuild, EveryProblemIsToldNotOnlyTheFirst) {
   const fhset::Built built = buildSet("set S\nshot A\n  elapsed-time on\n  hotspot H\n    left x\n    top 2\n", QStringLiteral("w.txt"));
-  EXPECT_EQ(built.problems, QStringList({QStringLiteral("w.txt:3: expected yes or no, not 'on'"),
-                                         QStringLiteral("w.txt:5: 'x' is not a whole number")}));
+  EXPECT_EQ(built.problems, QStringList({"w.txt:3: expected yes or no, not 'on'", "w.txt:5: 'x' is not a whole number"}));
 }
 
 int fhsetWith(const QStringList& arguments, QString* out = nullptr, QString* err = nullptr) {

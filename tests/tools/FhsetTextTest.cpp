@@ -82,8 +82,7 @@ TEST(FhsetText, DumpOfADamagedFileSaysWhereAndKeepsWhatItRead) {
                                         "and they are left out here").arg(bytes.size())}));
   bytes[71 + 198] = '\xFF';
   bytes[71 + 199] = '\xFF';
-  EXPECT_EQ(dump(bytes).damage.last(),
-            QStringLiteral("byte 269: shot 0 (Porch) counts -1 hotspots; a negative count can't be read, and the reading stops there"));
+  EXPECT_EQ(dump(bytes).damage.last(), "byte 269: shot 0 (Porch) counts -1 hotspots; a negative count can't be read, and the reading stops there");
 }
 
 }  // namespace

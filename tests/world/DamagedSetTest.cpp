@@ -40,8 +40,7 @@ TEST(HeaderMismatch, EachWrongTagIsToldKeptAndReadPast) {
   ScriptedUi ui;
   cSet set;
   EXPECT_EQ(loadInto(set, bad), std::nullopt);
-  EXPECT_EQ(mismatchTitles(ui), std::vector<QString>({QStringLiteral("Set header mismatch"), QStringLiteral("Shot header mismatch"),
-                                                      QStringLiteral("HotSpot header mismatch")}));
+  EXPECT_EQ(mismatchTitles(ui), std::vector<QString>({"Set header mismatch", "Shot header mismatch", "HotSpot header mismatch"}));
   EXPECT_EQ(set.Shots[0]->HotSpots[0]->Name, QStringLiteral("FrontDoor"));
   EXPECT_EQ(savedBytes(set), bad);  // the bad tags are written back as they were read
 }
@@ -58,8 +57,7 @@ TEST(HeaderMismatch, TheTenthInOneFileEndsTheReading) {
   EXPECT_EQ(failureOf([&] { set.Load(file); }, &message), Failure::InvalidFileFormat);
   EXPECT_TRUE(message.contains(QStringLiteral("C:\\Fernhollow\\Database\\Zeros.set is damaged"))) << message.toStdString();
   EXPECT_EQ(mismatchTitles(ui), std::vector<QString>(10, QStringLiteral("Shot header mismatch")));
-  EXPECT_EQ(ui.messageBoxes()[0].details,
-            QStringLiteral("The record at byte 71 of C:\\Fernhollow\\Database\\Zeros.set should begin with \"Shot\"."));
+  EXPECT_EQ(ui.messageBoxes()[0].details, "The record at byte 71 of C:\\Fernhollow\\Database\\Zeros.set should begin with \"Shot\".");
   EXPECT_TRUE(ui.messageBoxes()[9].details.startsWith(QStringLiteral("The record at byte 1871 of")));
 }
 

@@ -15,9 +15,7 @@ std::shared_ptr<cHotSpot> placed(const QString& name, int left, int top, int wid
 }
 
 TEST(HitTest, EdgesAreOutsideAndTheLowestIndexWinsEvenWhenDisabled) {
-  auto shot = makeShot(QStringLiteral("Porch"), {placed(QStringLiteral("Lamp"), 10, 20, 30, 40),
-                                                 placed(QStringLiteral("Wall"), 0, 0, 100, 100),
-                                                 placed(QStringLiteral("Thin"), 200, 0, 1, 100)});
+  auto shot = makeShot("Porch", {placed("Lamp", 10, 20, 30, 40), placed("Wall", 0, 0, 100, 100), placed("Thin", 200, 0, 1, 100)});
   // (10, 30) lies on Lamp's left edge, so it is Wall's; Thin, one pixel wide, is never hit.
   const std::tuple<int, int, int> hits[] = {{11, 21, 0}, {10, 30, 1}, {40, 30, 1}, {0, 50, -1}, {200, 50, -1}, {201, 50, -1}};
   for (const auto& [x, y, index] : hits) EXPECT_EQ(shot->CheckHotSpots(static_cast<i16>(x), static_cast<i16>(y)), index) << x << ", " << y;
@@ -95,13 +93,12 @@ class LiveHotSpot : public LiveWorld {
  protected:
   void SetUp() override {
     LiveWorld::SetUp();
-    auto tap = placedHotSpot(QStringLiteral("Tap"), {10, 10, 50, 50}, {QStringLiteral("togglecontainer tap"), QStringLiteral("togglecontainer lamp")});
+    auto tap = placedHotSpot("Tap", {10, 10, 50, 50}, {"togglecontainer tap", "togglecontainer lamp"});
     tap->Icon = 2;
     tap->Rollover = QStringLiteral("ShowDialog hello");
     auto lamp = placed(QStringLiteral("Lamp"), 100, 10, 50, 50);
     lamp->Rollover = QStringLiteral("togglecontainer lamp");
-    data.write(QStringLiteral("Small.set"), savedBytes(makeSet(QStringLiteral("Small"),
-        {makeShot(QStringLiteral("Porch"), {tap, lamp}), makeShot(QStringLiteral("Hall"))})));
+    data.write(QStringLiteral("Small.set"), savedBytes(makeSet("Small", {makeShot("Porch", {tap, lamp}), makeShot("Hall")})));
     LoadSet(QStringLiteral("Small.set"));
   }
   cHotSpot& spot(i16 index) { return *CurrentShot->HotSpot(index); }

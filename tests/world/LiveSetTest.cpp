@@ -63,8 +63,7 @@ TEST_F(LiveSet, AShotWithoutRowsIsToldAndKeepsTheOldPicture) {
   CurrentSet->ShowShot(1);
   CurrentSet->ShowShot(2);
   EXPECT_EQ(text(), QStringLiteral("Attic"));
-  EXPECT_EQ(messages(), QStringList({QStringLiteral("Can't find any backdrops for Attic check VisualRegistry and try again."),
-                                     QStringLiteral("Sprite Ghost does not exist!")}));
+  EXPECT_EQ(messages(), QStringList({"Can't find any backdrops for Attic check VisualRegistry and try again.", "Sprite Ghost does not exist!"}));
   EXPECT_EQ(view().CurrentBackdrop(), QStringLiteral("Hall.bmp"));
 }
 

@@ -50,8 +50,7 @@ class LiveWorld : public testing::Test {
                                    QStringLiteral(FH_SOURCE_DIR "/tests/world/LiveWorld.sql")} + moreRows());
     GameDB = Database::OpenDatabase(data.at(QStringLiteral("Fernhollow.mdb")));
     DatabasePath = data.path() + u'/';
-    data.write(QStringLiteral("Small.set"), savedBytes(makeSet(QStringLiteral("Small"),
-        {makeShot(QStringLiteral("Porch")), makeShot(QStringLiteral("Hall")), makeShot(QStringLiteral("Attic"))})));
+    data.write(QStringLiteral("Small.set"), savedBytes(makeSet("Small", {makeShot("Porch"), makeShot("Hall"), makeShot("Attic")})));
     CurrentUserID = 1;
     CurrentShotIndex = 0;
     UserHasWonGame = false;

@@ -47,8 +47,7 @@ TEST(FixedTexts, SixtyFourCharactersSurviveAndASixtyFifthIsCut) {
 }
 
 TEST(FixedTexts, OnlyBlanksVanishAndLeadingOnesUnlessTheReaderKeepsThem) {
-  const QByteArray bytes = savedBytes(*makeHotSpot(QStringLiteral("  Door  "), {QStringLiteral("   indented"), QStringLiteral("    "),
-                                                                               QStringLiteral("\ttab\u00A0")}));
+  const QByteArray bytes = savedBytes(*makeHotSpot("  Door  ", {"   indented", "    ", QStringLiteral("\ttab\u00A0")}));
   const cHotSpot trimmed = loadedFrom<cHotSpot>(bytes);
   EXPECT_EQ(trimmed.Name, QStringLiteral("Door"));
   EXPECT_EQ(trimmed.NumScriptLines, 3);  // the all-blank line still counts

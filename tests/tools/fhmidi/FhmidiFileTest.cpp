@@ -81,8 +81,7 @@ TEST(MidiFile, ReaderRefusesBrokenFiles) {
 
 TEST(MidiFile, LengthFollowsTheTempoMap) {
   // Two bars at 120 (4 s), then two bars at 60 (8 s).
-  const QString source = QStringLiteral(
-      "tempo 120\ntrack p program 1\nsection fast 2\np: 1 c4\nsection slow 2 tempo 60\np: 1 c4\nform fast slow\n");
+  const QString source = QStringLiteral("tempo 120\ntrack p program 1\nsection fast 2\np: 1 c4\nsection slow 2 tempo 60\np: 1 c4\nform fast slow\n");
   const fhmidi::MidiSummary summary = readMidiFile(writeMidiFile(parseMusicSource(source, QStringLiteral("t.txt"))));
   ASSERT_EQ(summary.tempos.size(), 2u);
   EXPECT_EQ(summary.tempos[1].tick, 4 * 480 * 2);

@@ -10,12 +10,9 @@
 namespace fh::test {
 namespace {
 
-std::shared_ptr<cHotSpot> placed(const QString& name, int left, int top, int width, int height) {
-  return placedHotSpot(name, {left, top, width, height});
-}
-
 TEST(HitTest, EdgesAreOutsideAndTheLowestIndexWinsEvenWhenDisabled) {
-  auto shot = makeShot("Porch", {placed("Lamp", 10, 20, 30, 40), placed("Wall", 0, 0, 100, 100), placed("Thin", 200, 0, 1, 100)});
+  auto shot = makeShot("Porch", {placedHotSpot("Lamp", {10, 20, 30, 40}), placedHotSpot("Wall", {0, 0, 100, 100}),
+                                 placedHotSpot("Thin", {200, 0, 1, 100})});
   // (10, 30) lies on Lamp's left edge, so it is Wall's; Thin, one pixel wide, is never hit.
   const std::tuple<int, int, int> hits[] = {{11, 21, 0}, {10, 30, 1}, {40, 30, 1}, {0, 50, -1}, {200, 50, -1}, {201, 50, -1}};
   for (const auto& [x, y, index] : hits) EXPECT_EQ(shot->CheckHotSpots(static_cast<i16>(x), static_cast<i16>(y)), index) << x << ", " << y;
@@ -26,15 +23,15 @@ TEST(HitTest, EdgesAreOutsideAndTheLowestIndexWinsEvenWhenDisabled) {
 
 // Both far edges are 16-bit sums, taken for every hotspot looked at, wherever the point is.
 TEST(HitTest, AnEdgePast32767IsAnOverflow) {
-  for (const auto& spot : {placed(QStringLiteral("Wide"), 32700, 0, 68, 10), placed(QStringLiteral("Tall"), 0, 32700, 10, 68)}) {
+  for (const auto& spot : {placedHotSpot("Wide", {32700, 0, 68, 10}), placedHotSpot("Tall", {0, 32700, 10, 68})}) {
     auto shot = makeShot(QStringLiteral("Porch"), {spot});
     EXPECT_EQ(failureOf([&] { shot->CheckHotSpots(5, 5); }), Failure::Overflow) << spot->Name.toStdString();
   }
-  EXPECT_EQ(makeShot(QStringLiteral("Porch"), {placed(QStringLiteral("Edge"), 32700, 0, 67, 10)})->CheckHotSpots(32766, 5), 0);
+  EXPECT_EQ(makeShot("Porch", {placedHotSpot("Edge", {32700, 0, 67, 10})})->CheckHotSpots(32766, 5), 0);
 }
 
 TEST(HotSpotList, AddKeepsTheDefaultsAndDeleteMovesTheLastIntoTheGap) {
-  auto shot = makeShot(QStringLiteral("Porch"), {placed(QStringLiteral("A"), 0, 0, 50, 50), placed(QStringLiteral("B"), 0, 0, 50, 50)});
+  auto shot = makeShot("Porch", {placedHotSpot("A", {0, 0, 50, 50}), placedHotSpot("B", {0, 0, 50, 50})});
   EXPECT_EQ(shot->AddHotSpot(5, 6, 7, 8), 2);
   const cHotSpot& added = *shot->HotSpot(2);
   EXPECT_EQ(QRect(added.Left, added.Top, added.Width, added.Height), QRect(5, 6, 7, 8));
@@ -60,7 +57,7 @@ TEST(HotSpotList, AddKeepsTheDefaultsAndDeleteMovesTheLastIntoTheGap) {
 
 // A delete at or past the count but inside the slots moves the last hotspot there, out of the count.
 TEST(HotSpotList, DeletingTheTopSlotTakesTheLastOutOfTheCount) {
-  auto shot = makeShot(QStringLiteral("Porch"), {placed(QStringLiteral("A"), 0, 0, 50, 50), placed(QStringLiteral("B"), 0, 0, 50, 50)});
+  auto shot = makeShot("Porch", {placedHotSpot("A", {0, 0, 50, 50}), placedHotSpot("B", {0, 0, 50, 50})});
   EXPECT_EQ(failureOf([&] { shot->DeleteHotSpot(3); }), Failure::SubscriptOutOfRange);
   EXPECT_EQ(shot->NumHotSpots, 2);
   shot->DeleteHotSpot(2);
@@ -96,7 +93,7 @@ class LiveHotSpot : public LiveWorld {
     auto tap = placedHotSpot("Tap", {10, 10, 50, 50}, {"togglecontainer tap", "togglecontainer lamp"});
     tap->Icon = 2;
     tap->Rollover = QStringLiteral("ShowDialog hello");
-    auto lamp = placed(QStringLiteral("Lamp"), 100, 10, 50, 50);
+    auto lamp = placedHotSpot("Lamp", {100, 10, 50, 50});
     lamp->Rollover = QStringLiteral("togglecontainer lamp");
     data.write(QStringLiteral("Small.set"), savedBytes(makeSet("Small", {makeShot("Porch", {tap, lamp}), makeShot("Hall")})));
     LoadSet(QStringLiteral("Small.set"));

@@ -22,8 +22,7 @@ const QString kSounds = QStringLiteral(FH_SOURCE_DIR "/world/sounds");
 std::map<QString, QString> listedSounds() {
   QFile file(QStringLiteral(FH_SOURCE_DIR "/world/resources.md"));
   EXPECT_TRUE(file.open(QIODevice::ReadOnly));
-  static const QRegularExpression row(QStringLiteral("^\\| `Audio/(\\w+)\\.wav` \\| ([^|]+) \\|"),
-                                      QRegularExpression::MultilineOption);
+  static const QRegularExpression row(QStringLiteral("^\\| `Audio/(\\w+)\\.wav` \\| ([^|]+) \\|"), QRegularExpression::MultilineOption);
   std::map<QString, QString> listed;
   for (const auto& match : row.globalMatch(QString::fromUtf8(file.readAll()))) listed[match.captured(1)] = match.captured(2).trimmed();
   return listed;

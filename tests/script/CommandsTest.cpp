@@ -116,12 +116,10 @@ TEST_F(GotoCommands, AnUnknownShotDoesNothingAndAMissingSetFails) {
 }
 
 TEST_F(DeviceCommands, SetHotSpotNeedsTheWordActiveToSwitchOn) {
-  run("sethotspot lamp");
-  EXPECT_FALSE(enabled(1));
-  run("sethotspot LAMP active");
-  EXPECT_TRUE(enabled(1));
-  run("sethotspot lamp on");
-  EXPECT_FALSE(enabled(1));
+  for (const auto& [line, on] : {std::pair{"sethotspot lamp", false}, {"sethotspot LAMP active", true}, {"sethotspot lamp on", false}}) {
+    run(line);
+    EXPECT_EQ(enabled(1), on) << line;
+  }
   EXPECT_TRUE(enabled(0));
   run("sethotspot chimney active");
   EXPECT_EQ(messages(), QStringList({QStringLiteral("Hotspot chimney not found in current shot.")}));
@@ -179,13 +177,12 @@ TEST_F(SoundCommands, LoadSoundGivesTheManagersAnswerAsTheLineResult) {
 
 TEST_F(SoundCommands, PlayLocalLoopsOnlyForTheWordLooped) {
   run("loadsound tick.wav tick");
-  run("playlocal tick looped");
-  EXPECT_TRUE(SoundMgr().IsLooped(0));
-  run("playlocal tick loop");
-  EXPECT_FALSE(SoundMgr().IsLooped(0));
-  run("playlocal tick looped");
-  run("playlocal tick");
-  EXPECT_FALSE(SoundMgr().IsLooped(0));
+  const std::pair<const char*, bool> plays[] = {
+      {"playlocal tick looped", true}, {"playlocal tick loop", false}, {"playlocal tick looped", true}, {"playlocal tick", false}};
+  for (const auto& [line, looped] : plays) {
+    run(line);
+    EXPECT_EQ(SoundMgr().IsLooped(0), looped) << line;
+  }
 }
 
 }  // namespace

@@ -51,9 +51,8 @@ TEST(FhartRender, PicturesTakeTheirSizeAndShareOnePaletteThatCanBeWrittenAsAPict
   folder.write(QStringLiteral("house/Kitchen.svg"), svg(120, 60, room(QStringLiteral("#f6e7c8"))));
   folder.write(QStringLiteral("windows/Tiny.svg"),
                QByteArray("<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"7px\" height=\"3\"><rect width=\"7\" height=\"3\" fill=\"#e04a3a\"/></svg>"));
-  const FhartRun run = fhart({QStringLiteral("render"), QStringLiteral("--palette-picture"), folder.at(QStringLiteral("win/Palette.bmp")),
-                              folder.at(QStringLiteral("house")), folder.at(QStringLiteral("out")),
-                              folder.at(QStringLiteral("windows")), folder.at(QStringLiteral("win"))});
+  const FhartRun run = fhart({"render", "--palette-picture", folder.at("win/Palette.bmp"), folder.at("house"), folder.at("out"),
+                              folder.at("windows"), folder.at("win")});
   ASSERT_EQ(run.code, 0) << run.err.toStdString();
   EXPECT_TRUE(run.err.isEmpty()) << run.err.toStdString();
 

@@ -116,9 +116,7 @@ TEST_F(MainView, TheBackdropLoadsOnlyWhenItsNameChangesAndForcingWipesTheSprites
 
 TEST_F(MainView, AMissingBackdropAsksForTheCdUntilItLoadsAndCancelOpensTheSetup) {
   ShotView& view = TheShotView();
-  ScriptedUi ui;
-  ui.queueAnswer(Answer::Ok);
-  ui.queueAnswer(Answer::Cancel);
+  ScriptedUi ui{{Answer::Ok, Answer::Cancel}};
   ui.queueModal([](QWidget& form) {
     ResourcePath = kStagedResources;
     form.hide();

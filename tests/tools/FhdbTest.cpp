@@ -64,13 +64,10 @@ TEST_F(FhdbBuild, ARebuildKeepsThePlayersWithACopyAndGivesThemTheNewContainers) 
   EXPECT_EQ(fhdb::buildDatabase(target, world("Tap Lamp")).playersKept, 0);
   auto game = Database::OpenDatabase(target);
   const int ann = addPlayer(*game, QStringLiteral("Ann"));
-  QueryDef tap = game->QueryDefs(QStringLiteral("GetContainer"));
-  tap.SetParameter(QStringLiteral("SelectContainer"), QStringLiteral("tap"));
-  tap.SetParameter(QStringLiteral("SelectUserID"), ann);
-  Recordset row = tap.OpenRecordset();
-  row.Edit();
-  row.SetField(QStringLiteral("CurrentState"), 0);
-  row.Update();
+  Recordset tap = game->OpenRecordset(QStringLiteral("SELECT * FROM UserContainers WHERE \"User ID\" = ? AND Container = 'Tap'"), {ann});
+  tap.Edit();
+  tap.SetField(QStringLiteral("CurrentState"), 0);
+  tap.Update();
 
   const fhdb::BuildReport report = fhdb::buildDatabase(target, world("Tap Lamp Fridge"));
   EXPECT_EQ(report.playersKept, 1);

@@ -107,33 +107,34 @@ QString DatabaseConnection::damage() const {
   return verdict == QLatin1String("ok") ? QString() : verdict;
 }
 
-QSqlQuery DatabaseConnection::run(const QString& statement, const QVariantList& values) const {
+QSqlQuery DatabaseConnection::newQuery() const {
   requireOpen();
   requireSameFile();
   throwKeptFailure();
-  QSqlQuery query(QSqlDatabase::database(m_connectionName, false));
+  return QSqlQuery(QSqlDatabase::database(m_connectionName, false));
+}
+
+QSqlQuery DatabaseConnection::prepared(const QString& statement) const {
+  QSqlQuery query = newQuery();
   query.setForwardOnly(true);
   if (!query.prepare(statement)) failWith(query, statement);
+  return query;
+}
+
+QSqlQuery DatabaseConnection::run(const QString& statement, const QVariantList& values) const {
+  QSqlQuery query = prepared(statement);
   for (const QVariant& value : values) query.addBindValue(value);
   if (!query.exec()) failWith(query, statement);
   return query;
 }
 
 void DatabaseConnection::execute(const QString& statement) const {
-  requireOpen();
-  requireSameFile();
-  throwKeptFailure();
-  QSqlQuery query(QSqlDatabase::database(m_connectionName, false));
+  QSqlQuery query = newQuery();
   if (!query.exec(statement)) failWith(query, statement);
 }
 
 QSqlQuery DatabaseConnection::runNamed(const QString& statement, const std::map<QString, QVariant>& placeholders) const {
-  requireOpen();
-  requireSameFile();
-  throwKeptFailure();
-  QSqlQuery query(QSqlDatabase::database(m_connectionName, false));
-  query.setForwardOnly(true);
-  if (!query.prepare(statement)) failWith(query, statement);
+  QSqlQuery query = prepared(statement);
   for (const auto& [placeholder, value] : placeholders) query.bindValue(placeholder, value);
   if (!query.exec()) failWith(query, statement);
   return query;

@@ -75,6 +75,9 @@ class DatabaseConnection {
   void requireSameFile() const;
   // Every statement's first check after the file's: a kept failure is thrown, once.
   void throwKeptFailure() const;
+  // A query on the connection, after those checks; prepared, it reads forward only.
+  QSqlQuery newQuery() const;
+  QSqlQuery prepared(const QString& statement) const;
 
   QString m_connectionName;
   QString m_path;

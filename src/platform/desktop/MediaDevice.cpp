@@ -135,7 +135,6 @@ void MediaDevice::play() {
   loaded.freeRest();
   loaded.looping = Looping && loaded.position == 0;
   if (loaded.looping) {
-    loaded.restStart = 0;
     loaded.playNumber = output.playChannel(loaded.channel, *loaded.sound, true);
     m_mode = kModePlaying;
     return;
